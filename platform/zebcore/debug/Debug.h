@@ -1,0 +1,46 @@
+// Developer diagnostics: assertion reports that never stop a headless run.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zebcore {
+namespace debug {
+
+struct AssertReport {
+    std::string expression;
+    std::string message;
+    std::string file;
+    int line = 0;
+    std::string function;
+};
+
+// Shows the report (stderr here) and records it. Returns true when the developer
+// asked to break; a site whose disabledFlag is set stays silent and is not recorded.
+bool BreakAfterAssertDialog(bool& disabledFlag, const char* expression, const char* message,
+                            const char* file, int line, const char* function);
+bool IsDebuggerAttached();
+
+// The recorded reports, oldest first, so tests can check that a report was made.
+const std::vector<AssertReport>& RecordedAssertReports();
+void ClearRecordedAssertReports();
+// Whether reports are echoed to stderr; tests that provoke reports on purpose turn it off.
+void SetAssertEchoEnabled(bool enabled);
+
+}  // namespace debug
+}  // namespace zebcore
+
+#define ZEB_DEBUG_BREAK() __builtin_trap()
+
+// Each site has its own disabled flag; execution always goes on behind the assertion.
+#define ZEB_ASSERT_MSG(condition, message)                                                   \
+    do {                                                                                     \
+        static bool sAssertDisabled = false;                                                 \
+        if (!(condition) && !sAssertDisabled &&                                              \
+            ::zebcore::debug::BreakAfterAssertDialog(sAssertDisabled, #condition, message,   \
+                                                     __FILE__, __LINE__, __func__) &&        \
+            ::zebcore::debug::IsDebuggerAttached())                                          \
+            ZEB_DEBUG_BREAK();                                                               \
+    } while (0)
+
+#define ZEB_ASSERT(condition) ZEB_ASSERT_MSG(condition, "")

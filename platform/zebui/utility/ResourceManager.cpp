@@ -1,0 +1,67 @@
+// Resource lookup in folders of files.
+#include "zebui/utility/ResourceManager.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "zebcore/filesupport/CommonDirs.h"
+
+namespace zebui {
+namespace utility {
+
+using zebcore::filesupport::Dir;
+using zebcore::utility::UTF16to8;
+
+ResourceManager::ResourceManager(bool followsResourcesDir)
+    : mFollowsResourcesDir(followsResourcesDir) {}
+
+std::vector<Dir> ResourceManager::searchFolders() const {
+    std::vector<Dir> folders(mFolders.rbegin(), mFolders.rend());
+    if (mFollowsResourcesDir) folders.push_back(zebcore::filesupport::commondirs::ResourcesDir());
+    return folders;
+}
+
+std::string ResourceManager::FindResourcePath(const zebcore::UTF16String& name,
+                                              const zebcore::UTF16String& type) const {
+    const std::string leaf = UTF16to8(name);
+    const std::string kind = UTF16to8(type);
+    if (leaf.empty() || leaf.find('/') != std::string::npos) return std::string();
+    for (const Dir& folder : searchFolders()) {
+        if (folder.NativePath().empty()) continue;
+        const std::string base = folder.NativePath() + "/" + kind + "/" + leaf;
+        for (const std::string& candidate : {base + "." + kind, base}) {
+            std::error_code ignored;
+            if (std::filesystem::is_regular_file(candidate, ignored)) return candidate;
+        }
+    }
+    return std::string();
+}
+
+bool ResourceManager::LoadResourceBytes(const zebcore::UTF16String& name,
+                                        const zebcore::UTF16String& type,
+                                        std::vector<unsigned char>& bytes) const {
+    bytes.clear();
+    const std::string path = FindResourcePath(name, type);
+    if (path.empty()) return false;
+    std::ifstream in(path, std::ios::binary);
+    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    return true;
+}
+
+bool ResourceManager::ResourceExists(const zebcore::UTF16String& name,
+                                     const zebcore::UTF16String& type) const {
+    return !FindResourcePath(name, type).empty();
+}
+
+void ResourceManager::AddFolder(const Dir& folder) { mFolders.push_back(folder); }
+
+void ResourceManager::RemoveFolder(const Dir& folder) {
+    mFolders.erase(std::remove_if(mFolders.begin(), mFolders.end(),
+                                  [&](const Dir& d) { return d.NativePath() == folder.NativePath(); }),
+                   mFolders.end());
+}
+
+}  // namespace utility
+}  // namespace zebui

@@ -1,0 +1,68 @@
+// The shared test fixture: a state with the platform, the library and the script layer.
+#include "tests/LuaTestFixture.h"
+
+#include <lua.hpp>
+
+#include "host/src/Session.h"
+#include "zebcore/debug/Debug.h"
+
+void LuaTest::SetUp() {
+    zebcore::debug::ClearRecordedAssertReports();
+    L = luaL_newstate();
+    ASSERT_NE(L, nullptr);
+    zebhost::SessionOptions options;
+    options.resourcesDir = ZEBHOST_DEFAULT_RESOURCES;
+    options.moduleDir = ZEBLUA_MODULE_DIR;
+    std::string error;
+    ASSERT_TRUE(zebhost::OpenSession(L, options, error)) << error;
+    lua_settop(L, 0);
+}
+
+void LuaTest::TearDown() {
+    if (L) lua_close(L);
+    L = nullptr;
+}
+
+void LuaTest::runLua(const std::string& code) {
+    const int top = lua_gettop(L);
+    if (luaL_loadbuffer(L, code.data(), code.size(), "=test") != 0 || lua_pcall(L, 0, 0, 0) != 0) {
+        const char* message = lua_tostring(L, -1);
+        ADD_FAILURE() << "Lua error: " << (message ? message : "(not a string)") << "\nin: " << code;
+    }
+    lua_settop(L, top);
+}
+
+std::string LuaTest::luaError(const std::string& code) {
+    const int top = lua_gettop(L);
+    std::string message;
+    if (luaL_loadbuffer(L, code.data(), code.size(), "=test") != 0 || lua_pcall(L, 0, 0, 0) != 0) {
+        const char* text = lua_tostring(L, -1);
+        message = text ? text : "(error object is not a string)";
+    } else {
+        ADD_FAILURE() << "expected a Lua error from: " << code;
+    }
+    lua_settop(L, top);
+    return message;
+}
+
+std::string LuaTest::luaValue(const std::string& expression) {
+    const int top = lua_gettop(L);
+    const std::string code = "return tostring((" + expression + "))";
+    std::string result;
+    if (luaL_loadbuffer(L, code.data(), code.size(), "=test") != 0 || lua_pcall(L, 0, 1, 0) != 0) {
+        const char* message = lua_tostring(L, -1);
+        ADD_FAILURE() << "Lua error: " << (message ? message : "(not a string)") << "\nin: " << code;
+    } else {
+        size_t length = 0;
+        const char* text = lua_tolstring(L, -1, &length);
+        result.assign(text ? text : "", text ? length : 0);
+    }
+    lua_settop(L, top);
+    return result;
+}
+
+int LuaTest::resultCount(const std::string& expression) {
+    return std::stoi(luaValue("select('#', " + expression + ")"));
+}
+
+void LuaTest::collectGarbage() { lua_gc(L, LUA_GCCOLLECT, 0); }
