@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# Runs zebhost on the first example and shows what it did.
+set -euo pipefail
+build=${1:-build/release}
+example=examples/strings_and_matrices.lua
+echo "== zebhost $example"
+"$build/bin/zebhost" "$example"
+echo
+echo "== the same script in German (texts from host/resources/loc/de.loc)"
+"$build/bin/zebhost" --lang de "$example" | grep -i -E 'localized'
+echo
+echo "== a stock lua5.1 requiring the library through package.cpath"
+lua5.1 -e "package.cpath = '$build/lib/?.so;' .. package.cpath
+  local s = require 'zeblua.zebString'
+  print('zebString.ToUpper(\"straße\") = ' .. s.ToUpper('straße'))"
