@@ -4,14 +4,14 @@
 local function show(label, ...)
   local parts = {}
   for i = 1, select("#", ...) do parts[#parts + 1] = tostring((select(i, ...))) end
-  print(string.format("%-34s %s", label, table.concat(parts, ", ")))
+  print(label .. "  ->  " .. table.concat(parts, ", "))
 end
 
 print("-- zebString: positions are one-based bytes")
 local text = "Grüße aus Köln, 2026"
 show("MatchB(text, '[0-9]+')", zebString.MatchB(text, "[0-9]+"))
 show("ReplaceB(text, 'ö', 'oe')", zebString.ReplaceB(text, "ö", "oe"))
-show("ReplaceB first only from byte 8", zebString.ReplaceB("a-a-a-a", "a", "b", 3, false))
+show("ReplaceB first only, from byte 3", zebString.ReplaceB("a-a-a-a", "a", "b", 3, false))
 show("SubstringB(text, -5)", zebString.SubstringB(text, -5))
 show("Trim('   padded  ')", "[" .. zebString.Trim("   padded  ") .. "]")
 show("Compare('apple', 'apricot')", zebString.Compare("apple", "apricot"))

@@ -19,8 +19,8 @@ bool InvertMatrix(const Matrix& input, Matrix& inverse);
 // translation, rotation, scale and shear hold 3 elements, perspective 4. False when
 // (3, 3) is 0, or after an assertion report when the matrix without perspective is
 // singular.
-bool DecomposeTransform(const Matrix& input, Vector& translation, Vector& rotation,
-                        Vector& scale, Vector& shear, Vector& perspective);
+bool DecomposeTransform(const Matrix& input, Vector& translation, Vector& rotation, Vector& scale,
+                        Vector& shear, Vector& perspective);
 
 // Cross product of two 3-vectors.
 Vector Vector3Cross(const Vector& a, const Vector& b);

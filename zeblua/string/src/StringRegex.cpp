@@ -11,10 +11,13 @@ namespace string {
 namespace {
 
 // One element per byte, so "." takes one byte of a multi-byte UTF-8 character.
-using ByteRegex = boost::basic_regex<char, boost::regex_traits<char, boost::cpp_regex_traits<char>>>;
+using ByteRegex =
+    boost::basic_regex<char, boost::regex_traits<char, boost::cpp_regex_traits<char>>>;
 
 // Perl syntax, case sensitive; scripts can pass no other syntax flag.
-ByteRegex compile(const char* pattern) { return ByteRegex(pattern, boost::regex_constants::normal); }
+ByteRegex compile(const char* pattern) {
+    return ByteRegex(pattern, boost::regex_constants::normal);
+}
 
 }  // namespace
 
@@ -24,13 +27,13 @@ bool SearchRegex(const char* pattern, const char* first, const char* last, Regex
     // No match_prev_avail: the search base is first, never the bytes before it.
     if (!boost::regex_search(first, last, found, regex, boost::regex_constants::match_default))
         return false;
-    match.begin = found.position(0);
-    match.end = match.begin + found.length(0);
+    match.begin = found[0].first - first;
+    match.end = found[0].second - first;
     return true;
 }
 
-std::string ReplaceRegex(const char* pattern, const char* text, const char* first,
-                         const char* last, const char* format, bool firstOnly) {
+std::string ReplaceRegex(const char* pattern, const char* text, const char* first, const char* last,
+                         const char* format, bool firstOnly) {
     const ByteRegex regex = compile(pattern);
     std::ostringstream out;
     out.write(text, first - text);

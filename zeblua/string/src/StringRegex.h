@@ -20,8 +20,8 @@ bool SearchRegex(const char* pattern, const char* first, const char* last, Regex
 
 // The bytes [text, first) unchanged, then [first, last) with each match of pattern, or only
 // the first when firstOnly, replaced by the Perl format string. Throws as SearchRegex does.
-std::string ReplaceRegex(const char* pattern, const char* text, const char* first,
-                         const char* last, const char* format, bool firstOnly);
+std::string ReplaceRegex(const char* pattern, const char* text, const char* first, const char* last,
+                         const char* format, bool firstOnly);
 
 }  // namespace string
 }  // namespace zeblua

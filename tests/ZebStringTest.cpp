@@ -1,0 +1,226 @@
+// zebString: byte positions, regular expressions, Unicode conversions and the silent rows.
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <lua.hpp>
+
+#include "tests/LuaTestFixture.h"
+#include "zebcore/config/Localizer.h"
+#include "zeblua/string/src/ZebString.h"
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+namespace {
+
+// probe(length [, pos]): the position helper with "Probe" as the name and 7 as the default.
+int probeOptionalPos(lua_State* L) {
+    const int length = static_cast<int>(luaL_checkinteger(L, 1));
+    lua_pushinteger(L, zeblua::string::GetOptionalOneBasedPos(L, 2, length, "Probe", 7));
+    return 1;
+}
+
+}  // namespace
+
+class ZebStringTest : public LuaTest {
+protected:
+    void SetUp() override {
+        LuaTest::SetUp();
+        // pack(...) shows every result, so "" is no result and "nil" is one nil.
+        runLua("S = zebString\n"
+               "function pack(...)\n"
+               "  local t = {}\n"
+               "  for i = 1, select('#', ...) do t[i] = tostring((select(i, ...))) end\n"
+               "  return table.concat(t, ',')\n"
+               "end");
+    }
+
+    std::string results(const std::string& call) { return luaValue("pack(" + call + ")"); }
+
+    void expectResults(const std::vector<std::pair<std::string, std::string>>& cases) {
+        for (const auto& [call, expected] : cases)
+            EXPECT_EQ(results(call), expected) << call;
+    }
+};
+
+TEST_F(ZebStringTest, PositionHelperDefaultsOnlyForMissingOrNilAndCountsNegativesFromTheEnd) {
+    lua_register(L, "probe", probeOptionalPos);
+    expectResults({{"probe(3)", "7"},
+                   {"probe(3, nil)", "7"},
+                   {"probe(0)", "7"},
+                   {"probe(3, 1)", "1"},
+                   {"probe(3, 3)", "3"},
+                   {"probe(3, -1)", "3"},
+                   {"probe(3, -3)", "1"}});
+    // The message is the plain string: Lua adds no source position.
+    for (const char* call : {"probe(3, 0)", "probe(3, 4)", "probe(3, -4)", "probe(0, 1)"})
+        EXPECT_EQ(luaError(call), "Probe: Invalid stack position") << call;
+    EXPECT_THAT(luaError("probe(3, '2')"), HasSubstr("number expected, got string"));
+}
+
+TEST_F(ZebStringTest, ByteFunctionsTakeOneBasedBytePositions) {
+    expectResults({{"S.GetCharB('abc', 1)", "a"},
+                   {"S.GetCharB('abc', -1)", "c"},
+                   {"S.GetCharB('\xC3\xA9x', 2)", "\xA9"},  // one byte of a two-byte character
+                   {"S.IsSpaceB(' x')", "true"},
+                   {"S.IsSpaceB(' x', 2)", "false"},
+                   {"S.IsSpaceB('\\tx')", "true"},
+                   {"S.IsSpaceB('')", "false"},  // the terminating zero byte
+                   {"S.IsAlphaB('a1')", "true"},
+                   {"S.IsAlphaB('a1', -1)", "false"},
+                   {"S.IsAlphaB('\xC3\xA9')", "false"}});
+    const std::vector<std::pair<std::string, std::string>> failures = {
+        {"S.GetCharB('abc', 4)", "GetCharB: Invalid stack position"},
+        {"S.GetCharB('abc', 0)", "GetCharB: Invalid stack position"},
+        {"S.IsSpaceB('', 1)", "IsSpaceB: Invalid stack position"},
+        {"S.IsAlphaB('ab', -3)", "IsAlphaB: Invalid stack position"},
+        {"S.MatchB('', 'x', 1)", "MatchB: Invalid stack position"},
+        {"S.ReplaceB('abc', 'a', 'b', 4)", "ReplaceB: Invalid stack position"}};
+    for (const auto& [call, message] : failures)
+        EXPECT_EQ(luaError(call), message) << call;
+    // The position of GetCharB is required, and a numeric string is no number.
+    EXPECT_THAT(luaError("S.GetCharB('abc')"), HasSubstr("bad argument #2 to 'GetCharB'"));
+    EXPECT_THAT(luaError("S.GetCharB('abc', '2')"), HasSubstr("number expected, got string"));
+}
+
+TEST_F(ZebStringTest, SubstringBHasItsOwnNegativeRuleAndClampsTheStart) {
+    expectResults({{"S.SubstringB('hello', 2)", "ello"},
+                   {"S.SubstringB('hello', 2, 2)", "el"},
+                   {"S.SubstringB('hello', 2, 0)", "ello"},
+                   {"S.SubstringB('hello', 2, nil)", "ello"},
+                   {"S.SubstringB('hello', -1)", "lo"},
+                   {"S.SubstringB('hello', -2, 1)", "l"},
+                   {"S.SubstringB('hello', 9)", "o"},
+                   {"S.SubstringB('hello', -9)", "hello"},
+                   {"S.SubstringB('hello', 4, 99)", "lo"},
+                   {"S.SubstringB('', 1)", ""},
+                   {"S.SubstringB('', -1)", ""}});
+    EXPECT_EQ(luaValue("#S.SubstringB('a\\0b', 1)"), "3");  // zero bytes survive
+    EXPECT_EQ(luaError("S.SubstringB('x', 0)"), "SubstringB: Bad character count, must be >= 0");
+    EXPECT_EQ(luaError("S.SubstringB('x', 1, -1)"),
+              "SubstringB: Bad character count, must be >= 0");
+    EXPECT_THAT(luaError("S.SubstringB('x')"), HasSubstr("number expected, got no value"));
+    EXPECT_THAT(luaError("S.SubstringB('x', 1, '1')"), HasSubstr("number expected, got string"));
+}
+
+TEST_F(ZebStringTest, MatchBAnchorsAtTheStartPositionAndCountsFromTheStartOfTheString) {
+    expectResults({{"S.MatchB('abc', 'b')", "2,3"},
+                   {"S.MatchB('abc', 'x*')", "1,1"},
+                   {"S.MatchB('abc', 'b', 3)", "nil"},
+                   {"S.MatchB('abcabc', 'b', 3)", "5,6"},
+                   {"S.MatchB('abc', '^b', 2)", "2,3"},
+                   {"S.MatchB('abc', '\\\\Ab', 2)", "2,3"},
+                   {"S.MatchB('abc', '(?<=a)b', 2)", "nil"},  // look-behind sees nothing before pos
+                   {"S.MatchB('abc', '(?<=a)b')", "2,3"},
+                   {"S.MatchB('abc', 'B')", "nil"},
+                   {"S.MatchB('abc', '(?i)B')", "2,3"},
+                   {"S.MatchB('\xC3\xA9x', '^.x')", "nil"},  // "." is one byte
+                   {"S.MatchB('\xC3\xA9x', '^..x')", "1,4"},
+                   {"S.MatchB('ab\\0b', 'b', 3)", "nil"},  // the search ends at a zero byte
+                   {"S.MatchB('', 'x')", "nil"}});
+}
+
+TEST_F(ZebStringTest, ReplaceBCopiesThePrefixAndHonoursTheFirstOnlyFlag) {
+    expectResults({{"S.ReplaceB('aaa', 'a', 'b')", "bbb"},
+                   {"S.ReplaceB('aaa', 'a', 'b', 2, false)", "aba"},
+                   {"S.ReplaceB('aaa', 'a', 'b', 2, true)", "abb"},
+                   {"S.ReplaceB('aaa', 'a', 'b', nil, false)", "baa"},
+                   {"S.ReplaceB('aaa', '^a', 'b', 3)", "aab"},
+                   {"S.ReplaceB('a1b2', '([0-9])', '<$1>')", "a<1>b<2>"},
+                   {"S.ReplaceB('ab', 'b', '[$&]')", "a[b]"},
+                   {"S.ReplaceB('a\\0b', 'b', 'c')", "a"}});  // pushed up to its first zero
+    EXPECT_THAT(luaError("S.ReplaceB('a', 'a', 'b', 1, 0)"), HasSubstr("boolean expected"));
+}
+
+TEST_F(ZebStringTest, TrimAndCompare) {
+    expectResults({{"S.Trim('  a b \\t')", "a b"},
+                   {"S.Trim('\\n\\v\\f\\rx\\r\\n')", "x"},
+                   {"S.Trim('   ')", ""},
+                   {"S.Trim('')", ""},
+                   {"S.Trim(' a\\0 b')", "a"},
+                   // Compare keeps std::string::compare's size: the length difference.
+                   {"S.Compare('a', 'a')", "0"},
+                   {"S.Compare('ab', 'a')", "1"},
+                   {"S.Compare('a', 'abc')", "-2"},
+                   {"S.Compare('abcd', 'a')", "3"},
+                   {"S.Compare('a\\0x', 'a')", "0"}});
+    EXPECT_EQ(luaValue("S.Compare('Z', 'a') < 0"), "true");
+    EXPECT_EQ(luaValue("S.Compare('\xC3\xA9', 'z') > 0"), "true");  // bytes compare unsigned
+}
+
+TEST_F(ZebStringTest, TheTwentyFourRowsWithoutBehaviourReturnNoValueAndCheckNothing) {
+    runLua("silent = {'GetChar', 'GetCharBytePos', 'GetCharPosB', 'GetLength', 'IsStringAscii',\n"
+           "  'IsAscii', 'IsAsciiB', 'IsSpace', 'IsAlpha', 'IsPunct', 'IsPunctB', 'IsNumber',\n"
+           "  'IsNumberB', 'IsControl', 'IsControlB', 'IsUpper', 'IsUpperB', 'IsLower',\n"
+           "  'IsLowerB', 'Substring', 'TrimLeft', 'TrimRight', 'Match', 'Replace'}");
+    EXPECT_EQ(luaValue("#silent"), "24");
+    EXPECT_EQ(
+        luaValue("(function() local n = 0 for _ in pairs(S) do n = n + 1 end return n end)()"),
+        "38");
+    for (int row = 1; row <= 24; ++row) {
+        const std::string name = luaValue("silent[" + std::to_string(row) + "]");
+        for (const char* arguments : {"", "'abc'", "'abc', 1", "nil, {}, true, print"})
+            EXPECT_EQ(resultCount("S." + name + "(" + arguments + ")"), 0) << name << arguments;
+    }
+    EXPECT_EQ(luaValue("S.GetLength('abc')"), "nil");  // only through result adjustment
+}
+
+TEST_F(ZebStringTest, CaseMappingAndUTF16ConversionGoThroughUnicode) {
+    expectResults({{"S.ToUpper('stra\xC3\x9F"
+                    "e')",
+                    "STRASSE"},
+                   {"S.ToLower('\xC3\x84"
+                    "B')",
+                    "\xC3\xA4"
+                    "b"},
+                   {"S.ToUpper('a\\0b')", "A"},
+                   {"S.UTF8to16('')", ""}});
+    EXPECT_EQ(luaValue("S.UTF8to16('A') == 'A\\0'"), "true");
+    EXPECT_EQ(luaValue("#S.UTF8to16('\xF0\x9D\x84\x9E')"), "4");  // a surrogate pair
+    const std::string text = "h\xC3\xA9llo \xE2\x82\xAC \xF0\x9D\x84\x9E";
+    EXPECT_EQ(luaValue("S.UTF16to8(S.UTF8to16('" + text + "'))"), text);
+    // Reading stops at the first zero unit; an odd last byte is no code unit.
+    expectResults({{"S.UTF16to8('a\\0\\0\\0b\\0')", "a"},
+                   {"S.UTF16to8('a\\0b')", "a"},
+                   {"S.UTF16to8('')", ""}});
+    // Invalid UTF-8 converts without failing.
+    EXPECT_EQ(luaValue("S.UTF16to8(S.UTF8to16('a\\255b'))"), "a\xEF\xBF\xBD"
+                                                             "b");
+}
+
+TEST_F(ZebStringTest, LocalizeLooksUpTheRunningLanguageAndFallsBackToTheDefaultText) {
+    expectResults({{"S.Localize('$$$/zebhost/Greeting=Hi')", "Hello from the resources"},
+                   {"S.Localize('$$$/zebstring/Missing=Default text')", "Default text"},
+                   {"S.Localize('')", ""}});
+    EXPECT_EQ(resultCount("S.Localize('')"), 0);
+    auto* localizer = zebcore::config::Localizer::Get();
+    const std::string language = localizer->GetLanguage();
+    localizer->SetLanguage("de");
+    EXPECT_EQ(luaValue("S.Localize('$$$/zebhost/Greeting=Hi')"), "Hallo aus den Ressourcen");
+    localizer->SetLanguage(language);
+}
+
+TEST_F(ZebStringTest, ReplaceInStringFillsPlaceholdersUpToTheFirstNil) {
+    for (const char* call : {"S.ReplaceInString()", "S.ReplaceInString('x')",
+                             "S.ReplaceInString('', 'y')", "S.ReplaceInString('x', '')"})
+        EXPECT_EQ(resultCount(call), 0) << call;
+    expectResults({{"S.ReplaceInString('^1 and ^2', 'a', 'b')", "a and b"},
+                   {"S.ReplaceInString('^1-^2', 'a', nil, 'b')", "a-^2"},
+                   {"S.ReplaceInString('^1[^2]', 'a', '')", "a[]"},
+                   {"S.ReplaceInString('^^^1', 5)", "^5"},
+                   {"S.ReplaceInString('^1\\0^1', 'a\\0b')", "a"},
+                   {"S.ReplaceInString('^1 ^2', 'a', nil, {})", "a ^2"}});
+    EXPECT_THAT(luaError("S.ReplaceInString('^1', 'a', {})"),
+                HasSubstr("bad argument #3 to 'ReplaceInString'"));
+    EXPECT_THAT(luaError("S.ReplaceInString({}, 'a')"), HasSubstr("bad argument #1"));
+}
+
+TEST_F(ZebStringTest, ABadPatternIsALuaErrorThatLeavesTheStateUsable) {
+    EXPECT_THAT(luaError("S.MatchB('abc', '(')"), StartsWith("test:1: MatchB: "));
+    EXPECT_THAT(luaError("S.MatchB('abc', '[a')"), HasSubstr("regular expression"));
+    EXPECT_THAT(luaError("S.ReplaceB('abc', 'a{2,1}', 'x', 2)"), HasSubstr("ReplaceB: "));
+    EXPECT_EQ(results("pcall(S.MatchB, 'abc', '(')").substr(0, 6), "false,");
+    EXPECT_EQ(results("S.MatchB('abc', 'c')"), "3,4");
+}
