@@ -6,6 +6,8 @@
 #include <lua.hpp>
 
 #include "host/src/Session.h"
+#include "zebcore/debug/HostLog.h"
+#include "zebcore/utility/Strings.h"
 
 namespace {
 
@@ -44,7 +46,8 @@ int runScript(lua_State* L, const char* path, int argc, char** argv, int scriptI
         std::fprintf(stderr, "zebhost: %s\n", lua_tostring(L, -1));
         return 1;
     }
-    for (int i = scriptIndex + 1; i < argc; ++i) lua_pushstring(L, argv[i]);
+    for (int i = scriptIndex + 1; i < argc; ++i)
+        lua_pushstring(L, argv[i]);
     if (lua_pcall(L, argc - scriptIndex - 1, 0, 1) != 0) {
         const char* message = lua_tostring(L, -1);
         std::fprintf(stderr, "zebhost: %s\n", message ? message : "(error object is not a string)");
@@ -77,6 +80,10 @@ int main(int argc, char** argv) {
         std::fputs(kUsage, stderr);
         return 2;
     }
+
+    zebcore::debug::SetLogSink([](const zebcore::UTF16String& message) {
+        std::fprintf(stderr, "zebhost log: %s\n", zebcore::utility::UTF16to8(message).c_str());
+    });
 
     lua_State* L = luaL_newstate();
     std::string error;

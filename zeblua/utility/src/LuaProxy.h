@@ -1,0 +1,157 @@
+// Proxy userdata: how a native object is handed to a script and taken back.
+#pragma once
+
+#include <cstddef>
+#include <new>
+
+struct lua_State;
+
+namespace zeblua {
+namespace utility {
+
+// A proxy is a full userdata whose metatable comes from the registry under the
+// module's metatable name. Two of its forms are built here:
+//   pointer form       the block is one word, the object pointer (T*)
+//   owner-flag form    the block is an OwnedPointer<T>: the pointer, and whether the
+//                      proxy owns the object or only lends it
+// Nulling the pointer is how a proxy dies before its userdata does: every __gc and
+// Release below nulls it, so a second one, or a __gc after Release, does nothing.
+
+template <class T> struct OwnedPointer {
+    T* object;
+    bool owned;  // true: the proxy deletes the object at collection
+};
+
+// --- Non-template core ---------------------------------------------------------------
+
+// Pushes a new userdata of size bytes with the metatable registered under
+// metatableName (none if that module has not been opened). Raises only Lua's memory error.
+void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName);
+
+// luaL_checkudata: the block at index, or Lua's standard type error naming metatableName.
+void* CheckProxyBlock(lua_State* L, int index, const char* metatableName);
+
+// Null without an error if the value at index is no userdata at all; otherwise as
+// CheckProxyBlock, so a userdata of another type still raises.
+void* TestProxyBlock(lua_State* L, int index, const char* metatableName);
+
+// A __tostring body: pushes "<displayName>(%p)" with shown, which is the userdata block
+// or the object held in it, as each module's format says. Returns 1.
+int PushProxyString(lua_State* L, const char* displayName, const void* shown);
+
+// The __gc of a proxy that owns nothing.
+int NothingGC(lua_State* L);
+
+// --- Pushing -------------------------------------------------------------------------
+
+template <class T> T** PushPointerProxy(lua_State* L, T* object, const char* metatableName) {
+    return new (NewProxyBlock(L, sizeof(T*), metatableName)) T*(object);
+}
+
+// For counted objects: the proxy holds one reference of its own (none for null).
+template <class T> T** PushCountedProxy(lua_State* L, T* object, const char* metatableName) {
+    T** block = PushPointerProxy(L, object, metatableName);
+    if (object) intrusive_ptr_add_ref(object);  // after the push, which may raise
+    return block;
+}
+
+template <class T>
+OwnedPointer<T>* PushOwnedPointerProxy(lua_State* L, T* object, bool owned,
+                                       const char* metatableName) {
+    return new (NewProxyBlock(L, sizeof(OwnedPointer<T>), metatableName))
+        OwnedPointer<T>{object, owned};
+}
+
+// --- Checked access: the bodies of the zeblua_check... accessors -----------------------
+
+// The pointer-form block, for callers that read or clear the pointer themselves.
+template <class T> T** CheckPointerBlock(lua_State* L, int index, const char* metatableName) {
+    return static_cast<T**>(CheckProxyBlock(L, index, metatableName));
+}
+
+// The held pointer, which is null once the proxy has been released.
+template <class T> T* CheckProxyPointer(lua_State* L, int index, const char* metatableName) {
+    return *CheckPointerBlock<T>(L, index, metatableName);
+}
+
+// The held pointer, or null without an error when the value is no userdata.
+template <class T> T* TestProxyPointer(lua_State* L, int index, const char* metatableName) {
+    T** block = static_cast<T**>(TestProxyBlock(L, index, metatableName));
+    return block ? *block : nullptr;
+}
+
+template <class T>
+OwnedPointer<T>* CheckOwnedPointer(lua_State* L, int index, const char* metatableName) {
+    return static_cast<OwnedPointer<T>*>(CheckProxyBlock(L, index, metatableName));
+}
+
+// --- Ending a proxy: the shared bodies of __gc and Release -----------------------------
+// Each nulls the pointer before it lets go, so a destructor that reaches the proxy
+// again finds it dead. None of them raises.
+
+// Sole owner: delete through the virtual destructor.
+template <class T> void DeleteHeldObject(T** block) {
+    T* object = *block;
+    *block = nullptr;
+    delete object;
+}
+
+// Lent or owned: delete only when the record says the proxy owns the object.
+template <class T> void DeleteIfOwned(OwnedPointer<T>* record) {
+    T* object = record->object;
+    record->object = nullptr;
+    if (record->owned) delete object;
+}
+
+// Counted: drop the proxy's one reference.
+template <class T> void ReleaseHeldReference(T** block) {
+    T* object = *block;
+    *block = nullptr;
+    if (object) intrusive_ptr_release(object);
+}
+
+// --- Metamethods from a proxy description ---------------------------------------------
+// A module describes its proxy once and names the metamethods in its luaL_Reg table:
+//   struct PenProxy {
+//       using Object = zebui::inkwell::PenInterface;
+//       static constexpr const char* kMetatableName = "zeblua.inkwell.PenInterface";
+//       static constexpr const char* kDisplayName = "PenInterface";
+//   };
+//   {"__gc", DeleteObjectGC<PenProxy>}, {"__tostring", HeldObject2string<PenProxy>},
+// Each checks argument 1 against the metatable, so a script that calls obj.__gc on
+// something else gets Lua's type error, and each does nothing on a null pointer.
+
+template <class Proxy> int DeleteObjectGC(lua_State* L) {
+    DeleteHeldObject(CheckPointerBlock<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
+    return 0;
+}
+
+template <class Proxy> int DeleteIfOwnedGC(lua_State* L) {
+    DeleteIfOwned(CheckOwnedPointer<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
+    return 0;
+}
+
+template <class Proxy> int ReleaseReferenceGC(lua_State* L) {
+    ReleaseHeldReference(CheckPointerBlock<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
+    return 0;
+}
+
+// The toolkit owns the object: the proxy only forgets it.
+template <class Proxy> int ClearPointerGC(lua_State* L) {
+    *CheckPointerBlock<typename Proxy::Object>(L, 1, Proxy::kMetatableName) = nullptr;
+    return 0;
+}
+
+// "%p" shows the userdata block.
+template <class Proxy> int Block2string(lua_State* L) {
+    return PushProxyString(L, Proxy::kDisplayName, CheckProxyBlock(L, 1, Proxy::kMetatableName));
+}
+
+// "%p" shows the object a pointer-form proxy holds (null once released).
+template <class Proxy> int HeldObject2string(lua_State* L) {
+    return PushProxyString(L, Proxy::kDisplayName,
+                           CheckProxyPointer<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
+}
+
+}  // namespace utility
+}  // namespace zeblua
