@@ -27,7 +27,8 @@ void LuaTest::runLua(const std::string& code) {
     const int top = lua_gettop(L);
     if (luaL_loadbuffer(L, code.data(), code.size(), "=test") != 0 || lua_pcall(L, 0, 0, 0) != 0) {
         const char* message = lua_tostring(L, -1);
-        ADD_FAILURE() << "Lua error: " << (message ? message : "(not a string)") << "\nin: " << code;
+        ADD_FAILURE() << "Lua error: " << (message ? message : "(not a string)")
+                      << "\nin: " << code;
     }
     lua_settop(L, top);
 }
@@ -51,7 +52,8 @@ std::string LuaTest::luaValue(const std::string& expression) {
     std::string result;
     if (luaL_loadbuffer(L, code.data(), code.size(), "=test") != 0 || lua_pcall(L, 0, 1, 0) != 0) {
         const char* message = lua_tostring(L, -1);
-        ADD_FAILURE() << "Lua error: " << (message ? message : "(not a string)") << "\nin: " << code;
+        ADD_FAILURE() << "Lua error: " << (message ? message : "(not a string)")
+                      << "\nin: " << code;
     } else {
         size_t length = 0;
         const char* text = lua_tolstring(L, -1, &length);
@@ -65,4 +67,6 @@ int LuaTest::resultCount(const std::string& expression) {
     return std::stoi(luaValue("select('#', " + expression + ")"));
 }
 
-void LuaTest::collectGarbage() { lua_gc(L, LUA_GCCOLLECT, 0); }
+void LuaTest::collectGarbage() {
+    lua_gc(L, LUA_GCCOLLECT, 0);
+}

@@ -2,12 +2,12 @@
 #include <lua.hpp>
 
 #include "os/CoreFoundation.h"
+#include "tests/LuaTestFixture.h"
 #include "vex/app/App.h"
+#include "zebcore/filesupport/CommonDirs.h"
 #include "zeblua/core/ZebTypes.h"
 #include "zeblua/utility/src/ScriptLocation.h"
 #include "zeblua/utility/src/ZebLua.h"
-#include "tests/LuaTestFixture.h"
-#include "zebcore/filesupport/CommonDirs.h"
 #include "zebui/utility/ResourceManager.h"
 
 namespace fs = zebcore::filesupport;

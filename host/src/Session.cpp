@@ -5,9 +5,10 @@
 
 #include <lua.hpp>
 
-#include "zeblua/utility/src/ZebLua.h"
+#include "host/src/HostFunctions.h"
 #include "zebcore/config/Localizer.h"
 #include "zebcore/filesupport/CommonDirs.h"
+#include "zeblua/utility/src/ZebLua.h"
 
 namespace zebhost {
 
@@ -55,6 +56,7 @@ int openAll(lua_State* L) {
     lua_getglobal(L, "require");
     lua_pushstring(L, kScriptLayerModule);
     lua_call(L, 1, 0);
+    OpenHostFunctions(L);
     return 0;
 }
 

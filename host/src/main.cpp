@@ -5,6 +5,7 @@
 
 #include <lua.hpp>
 
+#include "host/src/HostLoop.h"
 #include "host/src/Session.h"
 #include "zebcore/debug/HostLog.h"
 #include "zebcore/utility/Strings.h"
@@ -17,10 +18,13 @@ const char* const kUsage =
     "Runs script.lua in a Lua 5.1 state opened with the zeblua library, the embedded\n"
     "code searcher (require finds \"lua\" resources) and the host's script layer.\n"
     "The script's arguments are in the global table arg, as with lua5.1.\n"
+    "After the main chunk the event loop runs on a virtual clock, until no timer is\n"
+    "left or the script calls zebhost.quit().\n"
     "\n"
     "options:\n"
     "  --resources DIR   the application's resources folder (default: the host's own)\n"
     "  --lang LANG       language of localized texts, read from DIR/loc/LANG.loc (default: en)\n"
+    "  --run-for MS      run the event loop for MS milliseconds of virtual time instead\n"
     "  --help            show this text\n";
 
 // Adds a traceback to a script error, as the stand-alone interpreter does.
@@ -62,6 +66,7 @@ int main(int argc, char** argv) {
     zebhost::SessionOptions options;
     options.resourcesDir = ZEBHOST_DEFAULT_RESOURCES;
     int scriptIndex = 0;
+    long long runForMs = -1;  // until idle
     for (int i = 1; i < argc && scriptIndex == 0; ++i) {
         const std::string option = argv[i];
         if (option == "--help" || option == "-h") {
@@ -69,6 +74,11 @@ int main(int argc, char** argv) {
             return 0;
         } else if ((option == "--resources" || option == "--lang") && i + 1 < argc) {
             (option == "--lang" ? options.language : options.resourcesDir) = argv[++i];
+        } else if (option == "--run-for" && i + 1 < argc) {
+            if (!zebhost::ParseRunFor(argv[++i], runForMs)) {
+                std::fprintf(stderr, "zebhost: bad --run-for value %s\n\n%s", argv[i], kUsage);
+                return 2;
+            }
         } else if (option.rfind("--", 0) == 0) {
             std::fprintf(stderr, "zebhost: unknown option %s\n\n%s", argv[i], kUsage);
             return 2;
@@ -92,6 +102,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "zebhost: cannot open the session: %s\n", error.c_str());
     else
         status = runScript(L, argv[scriptIndex], argc, argv, scriptIndex);
+    if (status == 0) status = zebhost::RunEventLoop(runForMs);
     lua_close(L);
     return status;
 }

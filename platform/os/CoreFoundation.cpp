@@ -38,9 +38,13 @@ void RegisterBundle(const std::string& identifier, const std::string& modulePath
     bundles()[identifier] = std::make_unique<__CFBundle>(__CFBundle{modulePath});
 }
 
-void UnregisterBundle(const std::string& identifier) { bundles().erase(identifier); }
+void UnregisterBundle(const std::string& identifier) {
+    bundles().erase(identifier);
+}
 
-CFStringRef CreateString(const std::string& utf8) { return new __CFString{utf8}; }
+CFStringRef CreateString(const std::string& utf8) {
+    return new __CFString{utf8};
+}
 
 std::string BundleModulePath(CFBundleRef bundle) {
     return bundle ? bundle->modulePath : std::string();

@@ -11,9 +11,9 @@ extern "C" int XuLua_loadChunkFromBuffer(lua_State* L, const char* buffer, size_
     const std::string name = std::string("=") + (chunkName ? chunkName : "?");
     const int status = luaL_loadbuffer(L, buffer, length, name.c_str());
     if (status == 0) {
-        lua_pushvalue(L, -2);  /* environment table */
-        lua_setfenv(L, -2);    /* chunk's environment = table */
+        lua_pushvalue(L, -2); /* environment table */
+        lua_setfenv(L, -2);   /* chunk's environment = table */
     }
-    lua_remove(L, -2);  /* drop the table, leaving chunk or message on top */
+    lua_remove(L, -2); /* drop the table, leaving chunk or message on top */
     return status;
 }

@@ -1,6 +1,8 @@
 -- The host's script layer: the global constructors through which native code
 -- hands tables to scripts, and the zebhost table of host services.
 
+-- The host adds its native services to zebhost after this file has run:
+-- now() (virtual milliseconds), quit(), answer(code [, text [, delayMs]]).
 zebhost = zebhost or {}
 
 -- A 4 x 4 transform matrix from 16 numbers, row 0 first: a table of four rows.

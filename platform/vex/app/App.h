@@ -20,7 +20,9 @@ public:
     AppBase& operator=(const AppBase&) = delete;
 
     // Never null while scripts run.
-    zebui::utility::ResourceManager* GetAppResourceManager() const { return mResourceManager.get(); }
+    zebui::utility::ResourceManager* GetAppResourceManager() const {
+        return mResourceManager.get();
+    }
 
 private:
     std::unique_ptr<zebui::utility::ResourceManager> mResourceManager;

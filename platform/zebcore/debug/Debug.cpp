@@ -23,8 +23,8 @@ bool& echoEnabled() {
 bool BreakAfterAssertDialog(bool& disabledFlag, const char* expression, const char* message,
                             const char* file, int line, const char* function) {
     if (disabledFlag) return false;
-    reports().push_back({expression ? expression : "", message ? message : "",
-                         file ? file : "", line, function ? function : ""});
+    reports().push_back({expression ? expression : "", message ? message : "", file ? file : "",
+                         line, function ? function : ""});
     if (echoEnabled())
         std::fprintf(stderr, "zeb assertion: %s %s (%s:%d in %s)\n", expression ? expression : "",
                      message ? message : "", file ? file : "?", line, function ? function : "?");
@@ -45,11 +45,17 @@ bool IsDebuggerAttached() {
     return false;
 }
 
-const std::vector<AssertReport>& RecordedAssertReports() { return reports(); }
+const std::vector<AssertReport>& RecordedAssertReports() {
+    return reports();
+}
 
-void ClearRecordedAssertReports() { reports().clear(); }
+void ClearRecordedAssertReports() {
+    reports().clear();
+}
 
-void SetAssertEchoEnabled(bool enabled) { echoEnabled() = enabled; }
+void SetAssertEchoEnabled(bool enabled) {
+    echoEnabled() = enabled;
+}
 
 }  // namespace debug
 }  // namespace zebcore

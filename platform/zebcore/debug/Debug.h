@@ -35,19 +35,19 @@ void SetAssertEchoEnabled(bool enabled);
 // Each site has its own disabled flag; execution always goes on behind the assertion.
 // The condition's text is taken in each public macro, before any expansion of NULL and
 // the like, so a report reads as the source does.
-#define ZEB_ASSERT_REPORT_(condition, text, message, file)                                   \
-    do {                                                                                     \
-        static bool sAssertDisabled = false;                                                 \
-        if (!(condition) && !sAssertDisabled &&                                              \
-            ::zebcore::debug::BreakAfterAssertDialog(sAssertDisabled, text, message, file,   \
-                                                     __LINE__, __func__) &&                  \
-            ::zebcore::debug::IsDebuggerAttached())                                          \
-            ZEB_DEBUG_BREAK();                                                               \
+#define ZEB_ASSERT_REPORT_(condition, text, message, file)                                         \
+    do {                                                                                           \
+        static bool sAssertDisabled = false;                                                       \
+        if (!(condition) && !sAssertDisabled &&                                                    \
+            ::zebcore::debug::BreakAfterAssertDialog(sAssertDisabled, text, message, file,         \
+                                                     __LINE__, __func__) &&                        \
+            ::zebcore::debug::IsDebuggerAttached())                                                \
+            ZEB_DEBUG_BREAK();                                                                     \
     } while (0)
 
-#define ZEB_ASSERT_MSG(condition, message)                                                   \
+#define ZEB_ASSERT_MSG(condition, message)                                                         \
     ZEB_ASSERT_REPORT_(condition, #condition, message, __FILE__)
 // For a site whose report must name a fixed file.
-#define ZEB_ASSERT_MSG_IN_FILE(condition, message, file)                                     \
+#define ZEB_ASSERT_MSG_IN_FILE(condition, message, file)                                           \
     ZEB_ASSERT_REPORT_(condition, #condition, message, file)
 #define ZEB_ASSERT(condition) ZEB_ASSERT_MSG(condition, "")

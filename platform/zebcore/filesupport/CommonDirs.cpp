@@ -13,9 +13,13 @@ Dir& resourcesDir() {
 
 }  // namespace
 
-Dir ResourcesDir() { return resourcesDir(); }
+Dir ResourcesDir() {
+    return resourcesDir();
+}
 
-void SetResourcesDir(const Dir& dir) { resourcesDir() = dir; }
+void SetResourcesDir(const Dir& dir) {
+    resourcesDir() = dir;
+}
 
 }  // namespace commondirs
 }  // namespace filesupport

@@ -8,7 +8,8 @@ namespace filesupport {
 namespace {
 
 std::string trimSeparator(std::string path) {
-    while (path.size() > 1 && path.back() == '/') path.pop_back();
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
     return path;
 }
 
@@ -28,7 +29,9 @@ Dir::Dir(const Dir& parent, const UTF16String& name) {
         mPath = trimSeparator(parent.mPath + "/" + leaf);
 }
 
-UTF16String Dir::FullPath() const { return utility::UTF8to16(mPath); }
+UTF16String Dir::FullPath() const {
+    return utility::UTF8to16(mPath);
+}
 
 bool Dir::Exists() const {
     std::error_code ignored;

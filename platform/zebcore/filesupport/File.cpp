@@ -15,7 +15,9 @@ bool File::Exists() const {
     return !mPath.empty() && std::filesystem::is_regular_file(mPath, ignored);
 }
 
-Dir File::Parent() const { return Dir(FullPath()).Parent(); }
+Dir File::Parent() const {
+    return Dir(FullPath()).Parent();
+}
 
 }  // namespace filesupport
 }  // namespace zebcore

@@ -4,9 +4,13 @@
 namespace zebcore {
 namespace utility {
 
-CFStringRef ZEBtoMAC(const UTF16String& text) { return os::CreateString(UTF16to8(text)); }
+CFStringRef ZEBtoMAC(const UTF16String& text) {
+    return os::CreateString(UTF16to8(text));
+}
 
-UTF16String GetModulePath(CFBundleRef bundle) { return UTF8to16(os::BundleModulePath(bundle)); }
+UTF16String GetModulePath(CFBundleRef bundle) {
+    return UTF8to16(os::BundleModulePath(bundle));
+}
 
 }  // namespace utility
 }  // namespace zebcore

@@ -6,7 +6,9 @@
 namespace zebcore {
 namespace utility {
 
-RefCountedObject::~RefCountedObject() { ZEB_ASSERT(mReferenceCount == 0); }
+RefCountedObject::~RefCountedObject() {
+    ZEB_ASSERT(mReferenceCount == 0);
+}
 
 void RefCountedObject::RemoveReference() const {
     if (mReferenceCount.fetch_add(-1) == 1 && !mDestroying && !mKeepAlive) {

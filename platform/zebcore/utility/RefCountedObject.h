@@ -30,8 +30,12 @@ protected:
     uint8_t mKeepAlive = 0;
 };
 
-inline void intrusive_ptr_add_ref(const RefCountedObject* object) { object->AddReference(); }
-inline void intrusive_ptr_release(const RefCountedObject* object) { object->RemoveReference(); }
+inline void intrusive_ptr_add_ref(const RefCountedObject* object) {
+    object->AddReference();
+}
+inline void intrusive_ptr_release(const RefCountedObject* object) {
+    object->RemoveReference();
+}
 
 }  // namespace utility
 }  // namespace zebcore

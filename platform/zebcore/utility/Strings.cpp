@@ -127,7 +127,9 @@ UTF16String UTF8to16(const UTF8String& text, UnicodeErrorCode* error, unsigned l
     return out;
 }
 
-UTF8String UTF16to8(const UTF16String& text) { return utf16to8(text, text.size()); }
+UTF8String UTF16to8(const UTF16String& text) {
+    return utf16to8(text, text.size());
+}
 
 UTF8String UTF16to8(const char16_t* zeroTerminated) {
     if (!zeroTerminated) return UTF8String();
@@ -142,9 +144,13 @@ UTF16String AsciiToUTF16(const std::string& text) {
     return out;
 }
 
-void ToUpperCase(UTF16String& text) { mapCase(text, u_strToUpper); }
+void ToUpperCase(UTF16String& text) {
+    mapCase(text, u_strToUpper);
+}
 
-void ToLowerCase(UTF16String& text) { mapCase(text, u_strToLower); }
+void ToLowerCase(UTF16String& text) {
+    mapCase(text, u_strToLower);
+}
 
 UTF16String ReplaceInString(const UTF16String& templateText,
                             const std::vector<UTF16String>& replacements) {

@@ -55,12 +55,15 @@ bool ResourceManager::ResourceExists(const zebcore::UTF16String& name,
     return !FindResourcePath(name, type).empty();
 }
 
-void ResourceManager::AddFolder(const Dir& folder) { mFolders.push_back(folder); }
+void ResourceManager::AddFolder(const Dir& folder) {
+    mFolders.push_back(folder);
+}
 
 void ResourceManager::RemoveFolder(const Dir& folder) {
-    mFolders.erase(std::remove_if(mFolders.begin(), mFolders.end(),
-                                  [&](const Dir& d) { return d.NativePath() == folder.NativePath(); }),
-                   mFolders.end());
+    mFolders.erase(
+        std::remove_if(mFolders.begin(), mFolders.end(),
+                       [&](const Dir& d) { return d.NativePath() == folder.NativePath(); }),
+        mFolders.end());
 }
 
 }  // namespace utility

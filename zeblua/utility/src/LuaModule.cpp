@@ -8,11 +8,11 @@ namespace utility {
 
 void RegisterClassModule(lua_State* L, const char* metatableName, const luaL_Reg* methods,
                          const char* libraryName, const luaL_Reg* functions) {
-    luaL_newmetatable(L, metatableName);  /* registry[metatableName] = mt */
+    luaL_newmetatable(L, metatableName); /* registry[metatableName] = mt */
     lua_pushvalue(L, -1);
-    lua_setfield(L, -2, "__index");  /* mt.__index = mt */
+    lua_setfield(L, -2, "__index"); /* mt.__index = mt */
     luaL_register(L, nullptr, methods);
-    luaL_register(L, libraryName, functions);  /* mt, library */
+    luaL_register(L, libraryName, functions); /* mt, library */
 }
 
 void RegisterFunctionModule(lua_State* L, const char* libraryName, const luaL_Reg* functions) {

@@ -26,7 +26,9 @@ Dir sCommonLuaScriptsDir;
 
 }  // namespace
 
-void SetLuaScriptsDirOverride(const Dir& dir) { sLuaScriptsDir = dir; }
+void SetLuaScriptsDirOverride(const Dir& dir) {
+    sLuaScriptsDir = dir;
+}
 
 Dir GetProjectBaseDir() {
     if (sProjectRootDir.FullPath().empty())

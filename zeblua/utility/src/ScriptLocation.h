@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "zebcore/filesupport/Dir.h"
 #include "os/CoreFoundation.h"
+#include "zebcore/filesupport/Dir.h"
 
 namespace zeb {
 namespace lua {

@@ -12,9 +12,9 @@ namespace {
 const luaL_Reg kRootFunctions[] = {{nullptr, nullptr}};
 
 void registerRoot(lua_State* L) {
-    luaL_register(L, "zeblua", kRootFunctions);  /* global zeblua, no functions of its own */
-    numeric::OpenLuaNumeric(L);                  /* zeblua.numeric */
-    string::luaopen_zebluaStrings(L);            /* global zebString, on top */
+    luaL_register(L, "zeblua", kRootFunctions); /* global zeblua, no functions of its own */
+    numeric::OpenLuaNumeric(L);                 /* zeblua.numeric */
+    string::luaopen_zebluaStrings(L);           /* global zebString, on top */
 }
 
 }  // namespace

@@ -1,0 +1,58 @@
+// zebhost.now, zebhost.quit and zebhost.answer.
+#include "host/src/HostFunctions.h"
+
+#include <lua.hpp>
+
+#include "zeblua/utility/src/LuaModule.h"
+#include "zebui/ui/EventLoop.h"
+
+namespace zebhost {
+
+namespace {
+
+using zebui::ui::EventLoop;
+
+// Builds the answer in a frame of its own, so no C++ object is alive in a frame that
+// raises a Lua error.
+void queueAnswer(lua_Integer code, const char* text, size_t length, lua_Number delayMs) {
+    zebui::ui::UserAnswer answer;
+    answer.code = static_cast<int>(code);
+    answer.text.assign(text, length);
+    answer.delayMs = delayMs > 0 ? static_cast<zebui::ui::VirtualTime>(delayMs) : 0;
+    EventLoop::Get()->QueueUserAnswer(answer);
+}
+
+int hostNow(lua_State* L) {
+    lua_pushnumber(L, static_cast<lua_Number>(EventLoop::Get()->Now()));
+    return 1;
+}
+
+int hostQuit(lua_State*) {
+    EventLoop::Get()->Quit();
+    return 0;
+}
+
+int hostAnswer(lua_State* L) {
+    const lua_Integer code = luaL_checkinteger(L, 1);
+    size_t length = 0;
+    const char* text = luaL_optlstring(L, 2, "", &length);
+    const lua_Number delayMs = luaL_optnumber(L, 3, 0);
+    queueAnswer(code, text, length, delayMs);
+    return 0;
+}
+
+const luaL_Reg functions[] = {
+    {"now", hostNow},
+    {"quit", hostQuit},
+    {"answer", hostAnswer},
+    {NULL, NULL},
+};
+
+}  // namespace
+
+void OpenHostFunctions(lua_State* L) {
+    zeblua::utility::RegisterFunctionModule(L, "zebhost", functions);
+    lua_pop(L, 1);
+}
+
+}  // namespace zebhost

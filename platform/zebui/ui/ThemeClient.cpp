@@ -1,0 +1,10 @@
+// Theme users.
+#include "zebui/ui/ThemeClient.h"
+
+namespace zebui {
+namespace ui {
+
+ThemeClient::~ThemeClient() = default;
+
+}  // namespace ui
+}  // namespace zebui

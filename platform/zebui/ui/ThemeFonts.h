@@ -1,0 +1,14 @@
+// The font families of the theme, by the theme's font index.
+#pragma once
+
+#include "zebcore/utility/Strings.h"
+
+namespace zebui {
+namespace ui {
+
+// Text_Main_Large 0, Text_Main_Small 1 and Text_Title 2 are all "DejaVu Sans"; so is any
+// other index, so that a caller always gets a family that exists.
+zebcore::UTF16String GetFontName(unsigned long fontIndex);
+
+}  // namespace ui
+}  // namespace zebui
