@@ -1,8 +1,9 @@
-// zebhost.now, zebhost.quit and zebhost.answer.
+// zebhost.now, zebhost.quit, zebhost.answer and zebhost.inputCodes.
 #include "host/src/HostFunctions.h"
 
 #include <lua.hpp>
 
+#include "host/src/HostInputCodes.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zebui/ui/EventLoop.h"
 
@@ -42,9 +43,7 @@ int hostAnswer(lua_State* L) {
 }
 
 const luaL_Reg functions[] = {
-    {"now", hostNow},
-    {"quit", hostQuit},
-    {"answer", hostAnswer},
+    {"now", hostNow}, {"quit", hostQuit}, {"answer", hostAnswer}, {"inputCodes", PushInputCodes},
     {NULL, NULL},
 };
 

@@ -1,5 +1,5 @@
 // The native services of the host's zebhost table: the event loop's clock, quitting,
-// and scripted user answers for modal interactions.
+// scripted user answers for modal interactions, and the toolkit's input numbering.
 #pragma once
 
 struct lua_State;
@@ -11,6 +11,8 @@ namespace zebhost {
 //   zebhost.now()                        -> virtual time in milliseconds
 //   zebhost.quit()                       -- ends the event loop after the current call
 //   zebhost.answer(code [, text [, ms]]) -- queues a user answer, taken ms or later
+//   zebhost.inputCodes()                 -> the input constants (HostInputCodes.h), which
+//                                           the script layer publishes as zebhost.mouse etc.
 void OpenHostFunctions(lua_State* L);
 
 }  // namespace zebhost

@@ -53,10 +53,11 @@ int openAll(lua_State* L) {
     lua_settop(L, 0);
     if (zeblua::InitEmbeddedCodeLoader(L) != 0) lua_error(L);
 
+    // The native services first, so the script layer can build on them.
+    OpenHostFunctions(L);
     lua_getglobal(L, "require");
     lua_pushstring(L, kScriptLayerModule);
     lua_call(L, 1, 0);
-    OpenHostFunctions(L);
     return 0;
 }
 

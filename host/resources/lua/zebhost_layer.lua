@@ -1,9 +1,110 @@
 -- The host's script layer: the global constructors through which native code
 -- hands tables to scripts, and the zebhost table of host services.
 
--- The host adds its native services to zebhost after this file has run:
--- now() (virtual milliseconds), quit(), answer(code [, text [, delayMs]]).
+-- The host's native services are in zebhost before this file runs: now() (virtual
+-- milliseconds), quit(), answer(code [, text [, delayMs]]) and inputCodes().
 zebhost = zebhost or {}
+
+-- zebhost.mouse (actions), .buttons, .wheelAxis, .swipe, .modifiers (bits of modKey),
+-- .keyboard (actions), .keys (virtual key codes), .focus (focus change reasons): the
+-- toolkit's numbers, read from its own header, so that a script writes
+-- event.action == zebhost.mouse.kDown rather than a magic number.
+for group, codes in pairs(zebhost.inputCodes()) do
+  zebhost[group] = codes
+end
+
+-- Geometry, colour and event tables. Native code reads them by field name and makes them
+-- only through the global constructors below, so each table holds exactly the fields the
+-- readers ask for. A metatable shared by all tables of a kind adds a printable form and a
+-- few methods without adding a field; methods arrive through __index, so no method may
+-- bear the name of a field (a missing field must stay missing for the native reader).
+--   tostring(rect)     {left=0, top=0, width=10, height=20}
+--   rect:right(), rect:bottom()     left + width, top + height
+--   tostring(point)    {x=1, y=2}
+--   tostring(colour)   {red=1, green=0.5, blue=0, alpha=1}
+--   tostring(matrix)   {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}
+--   tostring(event)    its fields in constructor order, position as a point
+--   event:hasModifier(zebhost.modifiers.kShift)     true if that bit of modKey is set
+
+-- "{name=value, ...}" for the named fields of t, in the given order.
+local function fieldsText(t, names)
+  local parts = {}
+  for i, name in ipairs(names) do
+    parts[i] = name .. "=" .. tostring(t[name])
+  end
+  return "{" .. table.concat(parts, ", ") .. "}"
+end
+
+-- A metatable whose __tostring lists the named fields.
+local function printedAs(names, methods)
+  return {
+    __index = methods,
+    __tostring = function(t) return fieldsText(t, names) end,
+  }
+end
+
+local rectMethods = {}
+function rectMethods:right() return self.left + self.width end
+function rectMethods:bottom() return self.top + self.height end
+
+-- Lua 5.1 has no bit operators: the modifier byte's bits by arithmetic.
+local eventMethods = {}
+function eventMethods:hasModifier(bit)
+  return math.floor(self.modKey / bit) % 2 == 1
+end
+
+local rectMeta = printedAs({ "left", "top", "width", "height" }, rectMethods)
+local pointMeta = printedAs({ "x", "y" })
+local colourMeta = printedAs({ "red", "green", "blue", "alpha" })
+local keyboardEventMeta =
+  printedAs({ "action", "character", "keyCode", "modKey", "isRepeat" }, eventMethods)
+local mouseEventMeta = printedAs({ "action", "button", "clickCount", "position", "modKey",
+  "mouseWheelDelta", "mouseWheelAxis" }, eventMethods)
+local matrixMeta = {
+  __tostring = function(m)
+    local rows = {}
+    for r, row in ipairs(m) do
+      local values = {}
+      for c, value in ipairs(row) do values[c] = tostring(value) end
+      rows[r] = "{" .. table.concat(values, ", ") .. "}"
+    end
+    return "{" .. table.concat(rows, ", ") .. "}"
+  end,
+}
+
+local function newPoint(x, y)
+  return setmetatable({ x = x, y = y }, pointMeta)
+end
+
+-- Native code passes left, top, width, height; the fields carry the names.
+function zeblua_CreateNewRectF32(left, top, width, height)
+  return setmetatable({ left = left, top = top, width = width, height = height }, rectMeta)
+end
+
+zeblua_CreateNewPointF32 = newPoint
+
+function zeblua_CreateNewRGBA(red, green, blue, alpha)
+  return setmetatable({ red = red, green = green, blue = blue, alpha = alpha }, colourMeta)
+end
+
+-- Nine numbers, row after row: three row tables, as the native reader walks them.
+function zeblua_CreateNewMatrixF32(m00, m01, m02, m10, m11, m12, m20, m21, m22)
+  return setmetatable({ { m00, m01, m02 }, { m10, m11, m12 }, { m20, m21, m22 } }, matrixMeta)
+end
+
+-- character is the first UTF-16 unit of what the key typed; isRepeat a boolean.
+function zeblua_CreateNewZEBUIKeyboardEvent(action, character, keyCode, modKey, isRepeat)
+  return setmetatable({ action = action, character = character, keyCode = keyCode,
+    modKey = modKey, isRepeat = isRepeat }, keyboardEventMeta)
+end
+
+-- The native reader takes the event back from these fields, x and y under position.
+function zeblua_CreateNewZEBUIMouseEvent(action, button, clickCount, x, y, modKey,
+                                         mouseWheelDelta, mouseWheelAxis)
+  return setmetatable({ action = action, button = button, clickCount = clickCount,
+    position = newPoint(x, y), modKey = modKey, mouseWheelDelta = mouseWheelDelta,
+    mouseWheelAxis = mouseWheelAxis }, mouseEventMeta)
+end
 
 -- A 4 x 4 transform matrix from 16 numbers, row 0 first: a table of four rows.
 function zeblua_CreateNewTransformMatrix(...)

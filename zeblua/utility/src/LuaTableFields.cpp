@@ -43,5 +43,14 @@ zebcore::UTF8String GetStringField(lua_State* L, int index, const char* inFieldN
     return value;
 }
 
+double CheckNumberField(lua_State* L, int index, const char* name) {
+    lua_pushstring(L, name);
+    lua_gettable(L, index); /* value */
+    luaL_checknumber(L, -1);
+    const lua_Number value = lua_tonumber(L, -1);
+    lua_pop(L, 1);
+    return value;
+}
+
 }  // namespace utility
 }  // namespace zeblua

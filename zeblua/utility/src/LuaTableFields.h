@@ -23,5 +23,12 @@ bool GetBoolField(lua_State* L, int index, const char* inFieldName);
 // empty string if the field is absent or neither string nor number.
 zebcore::UTF8String GetStringField(lua_State* L, int index, const char* inFieldName);
 
+// The reading form of the geometry and event tables, which raises instead of defaulting:
+// lua_pushstring of name, lua_gettable at index, luaL_checknumber then lua_tonumber of the
+// value, pop. The name is pushed first, so index must be positive. A missing or
+// non-numeric field raises Lua's argument error at position -1: call it with no C++
+// object alive in the calling frames.
+double CheckNumberField(lua_State* L, int index, const char* name);
+
 }  // namespace utility
 }  // namespace zeblua

@@ -1,0 +1,164 @@
+// Geometry and colour tables: readers by field name, writers through the script layer.
+#include "zeblua/inkwell/src/LuaInkwellTypeUtils.h"
+
+#include <cstddef>
+
+#include <lua.hpp>
+
+#include "zebcore/debug/Debug.h"
+#include "zeblua/utility/src/LuaTableFields.h"
+
+namespace zeblua {
+namespace inkwell {
+
+namespace {
+
+using utility::CheckNumberField;
+using zebcore::geom::MatrixT;
+using zebcore::geom::PointT;
+using zebcore::geom::RectT;
+using zebui::inkwell::ColorRGBA;
+
+const char* const kColorConstructor = "zeblua_CreateNewRGBA";
+const char* const kRectConstructor = "zeblua_CreateNewRectF32";
+const char* const kPointConstructor = "zeblua_CreateNewPointF32";
+const char* const kMatrixConstructor = "zeblua_CreateNewMatrixF32";
+
+// The table check every reader starts with. False when the value on top of the stack is
+// nil: that is the top, not index, so a further nil argument after the table means "leave
+// the target as it is".
+bool tableToRead(lua_State* L, int index) {
+    luaL_checktype(L, index, LUA_TTABLE);
+    return !lua_isnil(L, -1);
+}
+
+// CheckNumberField's form with luaL_checkinteger and lua_tointeger.
+lua_Integer integerField(lua_State* L, int index, const char* name) {
+    lua_pushstring(L, name);
+    lua_gettable(L, index); /* value */
+    luaL_checkinteger(L, -1);
+    const lua_Integer value = lua_tointeger(L, -1);
+    lua_pop(L, 1);
+    return value;
+}
+
+// The numbers of a matrix table in the order they were met, counted past nine so that a
+// surplus is noticed. Trivially destructible: the count check raises a Lua error while
+// it is alive.
+struct MatrixData {
+    float values[9];
+    int count = 0;
+
+    void append(float value) {
+        if (count < 9) values[count] = value;
+        ++count;
+    }
+    int size() const { return count; }
+};
+
+void pushElement(lua_State* L, float value) {
+    lua_pushnumber(L, value);
+}
+void pushElement(lua_State* L, int value) {
+    lua_pushinteger(L, value);
+}
+
+// Calls the global constructor with the elements. The status is not looked at: on a
+// missing or failing constructor its error value stands where the table would, so exactly
+// one value is left either way.
+template <class T, std::size_t N>
+int callConstructor(lua_State* L, const char* constructor, const T (&elements)[N]) {
+    lua_checkstack(L, static_cast<int>(N) + 1);
+    lua_getfield(L, LUA_GLOBALSINDEX, constructor);
+    for (const T element : elements)
+        pushElement(L, element);
+    lua_pcall(L, static_cast<int>(N), 1, 0);
+    return 1;
+}
+
+}  // namespace
+
+void GetPointF32FromLua(lua_State* L, int index, PointT<float>& point) {
+    if (!tableToRead(L, index)) return;
+    const lua_Number x = CheckNumberField(L, index, "x");
+    const lua_Number y = CheckNumberField(L, index, "y");
+    point = PointT<float>(static_cast<float>(x), static_cast<float>(y));
+}
+
+void GetRectF32FromLua(lua_State* L, int index, RectT<float>& rect) {
+    if (!tableToRead(L, index)) return;
+    const lua_Number top = CheckNumberField(L, index, "top");
+    const lua_Number left = CheckNumberField(L, index, "left");
+    const lua_Number height = CheckNumberField(L, index, "height");
+    const lua_Number width = CheckNumberField(L, index, "width");
+    rect = RectT<float>(static_cast<float>(left), static_cast<float>(top),
+                        static_cast<float>(width), static_cast<float>(height));
+}
+
+void GetRect32FromLua(lua_State* L, int index, RectT<int>& rect) {
+    if (!tableToRead(L, index)) return;
+    const lua_Integer top = integerField(L, index, "top");
+    const lua_Integer left = integerField(L, index, "left");
+    const lua_Integer height = integerField(L, index, "height");
+    const lua_Integer width = integerField(L, index, "width");
+    rect = RectT<int>(static_cast<int>(left), static_cast<int>(top), static_cast<int>(width),
+                      static_cast<int>(height));
+}
+
+void GetColorRGBAFromLua(lua_State* L, int index, ColorRGBA& colour) {
+    if (!tableToRead(L, index)) return;
+    const lua_Number red = CheckNumberField(L, index, "red");
+    const lua_Number green = CheckNumberField(L, index, "green");
+    const lua_Number blue = CheckNumberField(L, index, "blue");
+    const lua_Number alpha = CheckNumberField(L, index, "alpha");
+    colour = ColorRGBA(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue),
+                       static_cast<float>(alpha));
+}
+
+void GetMatrixF32FromLua(lua_State* L, int index, MatrixT<float>& matrix) {
+    if (!tableToRead(L, index)) return;
+    MatrixData matData;
+    lua_pushnil(L);                   /* first row key */
+    while (lua_next(L, index) != 0) { /* row key, row */
+        if (lua_istable(L, -1)) {
+            lua_pushnil(L);                /* first column key */
+            while (lua_next(L, -2) != 0) { /* row key, row, column key, value */
+                // lua_tonumber converts a copy, so a numeric string stays a string in
+                // its slot and lua_next still finds the keys.
+                if (lua_isnumber(L, -1)) matData.append(static_cast<float>(lua_tonumber(L, -1)));
+                lua_pop(L, 1); /* keep the column key */
+            }
+        }
+        lua_pop(L, 1); /* keep the row key */
+    }
+    ZEB_ASSERT_MSG(matData.size() == 9, "A MatrixF32 table holds three rows of three numbers");
+    if (matData.size() != 9) luaL_error(L, "incorrect number of values for MatrixF32");
+    const float* v = matData.values;
+    matrix = MatrixT<float>(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8]);
+}
+
+int PushPointF32ToLua(lua_State* L, const PointT<float>& point) {
+    return callConstructor(L, kPointConstructor, {point.x, point.y});
+}
+
+int PushRectF32ToLua(lua_State* L, const RectT<float>& rect) {
+    return callConstructor(L, kRectConstructor, {rect.left, rect.top, rect.width, rect.height});
+}
+
+int PushRect32ToLua(lua_State* L, const RectT<int>& rect) {
+    return callConstructor(L, kRectConstructor, {rect.left, rect.top, rect.width, rect.height});
+}
+
+int PushColorRGBAToLua(lua_State* L, const ColorRGBA& colour) {
+    return callConstructor(L, kColorConstructor,
+                           {colour.red, colour.green, colour.blue, colour.alpha});
+}
+
+int PushMatrixF32ToLua(lua_State* L, const MatrixT<float>& m) {
+    return callConstructor(
+        L, kMatrixConstructor,
+        {m(0, 0), m(0, 1), m(0, 2), m(1, 0), m(1, 1), m(1, 2), m(2, 0), m(2, 1), m(2, 2)});
+}
+
+}  // namespace inkwell
+}  // namespace zeblua
