@@ -1,0 +1,16 @@
+// A push button: the base of the button family.
+#pragma once
+
+#include "zebui/controls/UI_InteractiveControlView.h"
+
+namespace zebui {
+namespace controls {
+
+class UI_Button : public UI_InteractiveControlView {
+public:
+    UI_Button();
+    ~UI_Button() override;
+};
+
+}  // namespace controls
+}  // namespace zebui

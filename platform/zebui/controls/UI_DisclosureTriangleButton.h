@@ -1,0 +1,16 @@
+// A text button with a triangle that shows whether something is open.
+#pragma once
+
+#include "zebui/controls/UI_TextButton.h"
+
+namespace zebui {
+namespace controls {
+
+class UI_DisclosureTriangleButton : public UI_TextButton {
+public:
+    UI_DisclosureTriangleButton();
+    ~UI_DisclosureTriangleButton() override;
+};
+
+}  // namespace controls
+}  // namespace zebui

@@ -1,0 +1,16 @@
+// A text that acts as a button.
+#pragma once
+
+#include "zebui/controls/UI_InteractiveControlView.h"
+
+namespace zebui {
+namespace controls {
+
+class UI_HotTextButton : public UI_InteractiveControlView {
+public:
+    UI_HotTextButton();
+    ~UI_HotTextButton() override;
+};
+
+}  // namespace controls
+}  // namespace zebui

@@ -1,0 +1,16 @@
+// A rotary control.
+#pragma once
+
+#include "zebui/controls/UI_InteractiveControlView.h"
+
+namespace zebui {
+namespace controls {
+
+class UI_Knob : public UI_InteractiveControlView {
+public:
+    UI_Knob();
+    ~UI_Knob() override;
+};
+
+}  // namespace controls
+}  // namespace zebui

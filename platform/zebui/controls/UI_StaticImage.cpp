@@ -1,0 +1,12 @@
+// A control that shows an image.
+#include "zebui/controls/UI_StaticImage.h"
+
+namespace zebui {
+namespace controls {
+
+UI_StaticImage::UI_StaticImage() = default;
+
+UI_StaticImage::~UI_StaticImage() = default;
+
+}  // namespace controls
+}  // namespace zebui

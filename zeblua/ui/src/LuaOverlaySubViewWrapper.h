@@ -1,0 +1,24 @@
+// The wrapper of an overlay sub view: its metatable name and method set.
+#pragma once
+
+#include "zeblua/ui/src/LuaUI_SubViewWrapper.h"
+
+struct lua_State;
+struct luaL_Reg;
+
+namespace zeblua {
+namespace ui {
+
+// "zebOverlaySubView": the sub view set, then its own rows.
+class LuaOverlaySubViewWrapper : public LuaUI_SubViewWrapper {
+public:
+    using LuaUI_SubViewWrapper::LuaUI_SubViewWrapper;
+
+    static const char* GetMetatableName();
+    static void RegisterMethods(lua_State* L);
+
+    static const luaL_Reg methods[];
+};
+
+}  // namespace ui
+}  // namespace zeblua

@@ -1,0 +1,24 @@
+// A popup window whose events go to Lua functions.
+#pragma once
+
+#include "zebui/ui/OS_Window.h"
+
+struct lua_State;
+
+namespace zebui {
+namespace inkwell {
+class SupplierInterface;
+}  // namespace inkwell
+}  // namespace zebui
+
+namespace zeblua {
+namespace ui {
+
+class LuaPopupWindow : public zebui::ui::OS_Window {
+public:
+    LuaPopupWindow(lua_State* L, const zebui::inkwell::SupplierInterface* supplier, bool floating);
+    ~LuaPopupWindow() override;
+};
+
+}  // namespace ui
+}  // namespace zeblua
