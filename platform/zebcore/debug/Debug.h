@@ -50,4 +50,4 @@ void SetAssertEchoEnabled(bool enabled);
 // For a site whose report must name a fixed file.
 #define ZEB_ASSERT_MSG_IN_FILE(condition, message, file)                                           \
     ZEB_ASSERT_REPORT_(condition, #condition, message, file)
-#define ZEB_ASSERT(condition) ZEB_ASSERT_MSG(condition, "")
+#define ZEB_ASSERT(condition) ZEB_ASSERT_REPORT_(condition, #condition, "", __FILE__)

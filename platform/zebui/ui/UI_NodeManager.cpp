@@ -3,6 +3,7 @@
 
 #include <climits>
 
+#include "zebui/inkwell/cairo/CairoSupplier.h"
 #include "zebui/ui/KeyboardEvent.h"
 #include "zebui/ui/MouseEvent.h"
 #include "zebui/ui/UI_Node.h"
@@ -63,6 +64,16 @@ bool UI_NodeManager::DispatchCursor(UI_Node* target, const zebcore::geom::PointT
 void UI_NodeManager::NodeDestroyed(const UI_Node* node) {
     if (mFocus == node) mFocus = nullptr;
     if (mMouseOver == node) mMouseOver = nullptr;
+}
+
+inkwell::SupplierInterface* UI_NodeManager::GetDefaultSupplier() const {
+    // Never destroyed, like the manager: surfaces made from it may outlive static teardown.
+    static inkwell::CairoSupplier* sHeadlessSupplier = new inkwell::CairoSupplier;
+    return mDefaultSupplier ? mDefaultSupplier : sHeadlessSupplier;
+}
+
+void UI_NodeManager::SetDefaultSupplier(inkwell::SupplierInterface* supplier) {
+    mDefaultSupplier = supplier;
 }
 
 }  // namespace ui

@@ -6,6 +6,9 @@
 #include "zebui/ui/InputCodes.h"
 
 namespace zebui {
+namespace inkwell {
+class SupplierInterface;
+}
 namespace ui {
 
 class UI_Node;
@@ -49,12 +52,19 @@ public:
     // Called by a dying node: forgets every plain pointer to it.
     void NodeDestroyed(const UI_Node* node);
 
+    // The application's default drawing supplier, for drawing that has no surface of its
+    // own to ask. A process-wide headless supplier until the host sets one; setting null
+    // brings that one back. The manager does not own a supplier the host sets.
+    inkwell::SupplierInterface* GetDefaultSupplier() const;
+    void SetDefaultSupplier(inkwell::SupplierInterface* supplier);
+
 private:
     UI_NodeManager() = default;
 
     int mLastTimerID = 0;
     UI_Node* mFocus = nullptr;
     UI_Node* mMouseOver = nullptr;
+    inkwell::SupplierInterface* mDefaultSupplier = nullptr;
 };
 
 }  // namespace ui
