@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs zebhost on the first example and shows what it did.
+# Runs zebhost on the examples and shows what they did.
 set -euo pipefail
 build=${1:-build/release}
 example=examples/strings_and_matrices.lua
@@ -13,3 +13,8 @@ echo "== a stock lua5.1 requiring the library through package.cpath"
 lua5.1 -e "package.cpath = '$build/lib/?.so;' .. package.cpath
   local s = require 'zeblua.zebString'
   print('zebString.ToUpper(\"straße\") = ' .. s.ToUpper('straße'))"
+echo
+echo "== drawing offscreen with zebhost.canvas (examples/drawing.lua)"
+png="$(dirname "$build")/examples/drawing.png"
+"$build/bin/zebhost" examples/drawing.lua "$png"
+echo "open $png to see the drawing"

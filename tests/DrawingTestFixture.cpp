@@ -90,3 +90,10 @@ std::string DrawingTest::nullPointerText() {
     std::snprintf(text, sizeof text, "%p", static_cast<void*>(nullptr));
     return text;
 }
+
+std::vector<std::string> DrawingTest::loggedCalls(const Canvas& canvas, const std::string& prefix) {
+    std::vector<std::string> entries;
+    for (const std::string& entry : canvas.surface->CallLog())
+        if (entry.compare(0, prefix.size(), prefix) == 0) entries.push_back(entry);
+    return entries;
+}

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include <boost/intrusive_ptr.hpp>
 
@@ -44,6 +45,8 @@ protected:
     static int reportCount(const std::string& message);
     // What "%p" makes of a null pointer, as in "zebInkwell(<this>)".
     static std::string nullPointerText();
+    // The entries of the canvas's call log that begin with prefix.
+    static std::vector<std::string> loggedCalls(const Canvas& canvas, const std::string& prefix);
 
     zebui::inkwell::CairoSupplier mSupplier;
     Canvas mCanvas{mSupplier, 16};

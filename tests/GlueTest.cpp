@@ -517,6 +517,49 @@ TEST_F(GlueTest, EachGcKindEndsItsObjectAsItSays) {
     EXPECT_EQ(deaths, 5);
 }
 
+// A check remembers the metatable it matched, per state: a proxy made before its module
+// opened has none, a look-alike metatable never passes, and another state is not fooled.
+TEST_F(GlueTest, ProxyChecksRememberOnlyTheRegisteredMetatable) {
+    lua_register(L, "checkProbe", checkProbe);
+    int deaths = 0;
+    Probe probe(deaths);
+    zu::PushPointerProxy(L, &probe, DeletedProbe::kMetatableName);
+    setGlobal("early");
+    const char* const kRefused = "(glue.DeletedProbe expected, got userdata)";
+    EXPECT_NE(luaError("checkProbe(early)").find(kRefused), std::string::npos);
+
+    registerProbeProxies();
+    zu::PushPointerProxy(L, new Probe(deaths), DeletedProbe::kMetatableName);
+    setGlobal("p");
+    runLua("lookalike = newproxy(true)\n"
+           "for k, v in pairs(getmetatable(p)) do\n"
+           "  if k ~= '__gc' then getmetatable(lookalike)[k] = v end\n"
+           "end");
+    for (int round = 0; round < 2; ++round) {  // before and after the first match
+        EXPECT_NE(luaError("checkProbe(lookalike)").find(kRefused), std::string::npos) << round;
+        EXPECT_EQ(luaValue("checkProbe(p)"), "true") << round;
+        EXPECT_NE(luaError("checkProbe(early)").find(kRefused), std::string::npos) << round;
+    }
+
+    lua_State* other = luaL_newstate();
+    ASSERT_NE(other, nullptr);
+    luaL_newmetatable(other, DeletedProbe::kMetatableName);
+    lua_pop(other, 1);
+    zu::PushPointerProxy(other, &probe, DeletedProbe::kMetatableName);
+    EXPECT_EQ(zu::TestProxyPointer<Probe>(other, 1, DeletedProbe::kMetatableName), &probe);
+    lua_newuserdata(other, sizeof(void*));
+    lua_pushcfunction(other, [](lua_State* state) {
+        zu::CheckProxyBlock(state, 1, DeletedProbe::kMetatableName);
+        return 0;
+    });
+    lua_insert(other, -2);
+    EXPECT_NE(lua_pcall(other, 1, 0, 0), 0) << "a userdata without the metatable passed";
+    lua_close(other);
+    runLua("early, p = nil, nil");
+    collectGarbage();
+    EXPECT_EQ(deaths, 1);
+}
+
 TEST_F(GlueTest, ProxyAccessorsCheckTheMetatable) {
     registerProbeProxies();
     lua_register(L, "testProbe", testProbe);

@@ -1,8 +1,9 @@
-// zebhost.now, zebhost.quit, zebhost.answer and zebhost.inputCodes.
+// zebhost.now, zebhost.quit, zebhost.answer, zebhost.inputCodes and zebhost.canvas.
 #include "host/src/HostFunctions.h"
 
 #include <lua.hpp>
 
+#include "host/src/HostCanvas.h"
 #include "host/src/HostInputCodes.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zebui/ui/EventLoop.h"
@@ -43,8 +44,9 @@ int hostAnswer(lua_State* L) {
 }
 
 const luaL_Reg functions[] = {
-    {"now", hostNow}, {"quit", hostQuit}, {"answer", hostAnswer}, {"inputCodes", PushInputCodes},
-    {NULL, NULL},
+    {"now", hostNow},       {"quit", hostQuit},
+    {"answer", hostAnswer}, {"inputCodes", PushInputCodes},
+    {"canvas", HostCanvas}, {NULL, NULL},
 };
 
 }  // namespace

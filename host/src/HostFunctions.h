@@ -1,5 +1,6 @@
 // The native services of the host's zebhost table: the event loop's clock, quitting,
-// scripted user answers for modal interactions, and the toolkit's input numbering.
+// scripted user answers for modal interactions, the toolkit's input numbering, and
+// offscreen drawing.
 #pragma once
 
 struct lua_State;
@@ -13,6 +14,7 @@ namespace zebhost {
 //   zebhost.answer(code [, text [, ms]]) -- queues a user answer, taken ms or later
 //   zebhost.inputCodes()                 -> the input constants (HostInputCodes.h), which
 //                                           the script layer publishes as zebhost.mouse etc.
+//   zebhost.canvas(w, h, fn [, pngPath]) -> true; fn(ink) draws (HostCanvas.h)
 void OpenHostFunctions(lua_State* L);
 
 }  // namespace zebhost

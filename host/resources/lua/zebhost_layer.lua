@@ -2,7 +2,8 @@
 -- hands tables to scripts, and the zebhost table of host services.
 
 -- The host's native services are in zebhost before this file runs: now() (virtual
--- milliseconds), quit(), answer(code [, text [, delayMs]]) and inputCodes().
+-- milliseconds), quit(), answer(code [, text [, delayMs]]), inputCodes() and
+-- canvas(width, height, fn [, pngPath]) (fn(ink) draws offscreen; the PNG is written).
 zebhost = zebhost or {}
 
 -- zebhost.mouse (actions), .buttons, .wheelAxis, .swipe, .modifiers (bits of modKey),

@@ -1,18 +1,31 @@
 // The application singleton.
 #include "vex/app/App.h"
 
+#include "zebui/utility/InkwellImageResourceCache.h"
 #include "zebui/utility/ResourceManager.h"
+#include "zebworkspace/workspace/Workspace.h"
 
 namespace vex {
 namespace app {
 
-AppBase::AppBase() : mResourceManager(std::make_unique<zebui::utility::ResourceManager>()) {}
+namespace {
+bool sAppAvailable = true;
+}  // namespace
+
+AppBase::AppBase()
+    : mResourceManager(std::make_unique<zebui::utility::ResourceManager>()),
+      mImageCache(std::make_unique<zebui::utility::InkwellImageResourceCache>()),
+      mWorkspace(std::make_unique<zebworkspace::workspace::Workspace>()) {}
 
 AppBase::~AppBase() = default;
 
 App* App::GetApp() {
     static App sApp;
-    return &sApp;
+    return sAppAvailable ? &sApp : nullptr;
+}
+
+void App::SetAppAvailable(bool available) {
+    sAppAvailable = available;
 }
 
 }  // namespace app

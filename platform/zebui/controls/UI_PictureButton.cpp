@@ -8,5 +8,9 @@ UI_PictureButton::UI_PictureButton() = default;
 
 UI_PictureButton::~UI_PictureButton() = default;
 
+void UI_PictureButton::SetImageBaseName(const zebcore::UTF8String& name) {
+    mImageBaseName = name;
+}
+
 }  // namespace controls
 }  // namespace zebui

@@ -1,15 +1,25 @@
 // A button drawn from images.
 #pragma once
 
+#include "zebcore/utility/Strings.h"
 #include "zebui/controls/UI_Button.h"
 
 namespace zebui {
 namespace controls {
 
+// The button draws whatever image its picture supply function hands it for the present
+// state; the base name is what that function derives the state images' names from.
 class UI_PictureButton : public UI_Button {
 public:
     UI_PictureButton();
     ~UI_PictureButton() override;
+
+    // 8-bit text, kept as given; empty means no image.
+    virtual void SetImageBaseName(const zebcore::UTF8String& name);
+    const zebcore::UTF8String& GetImageBaseName() const { return mImageBaseName; }
+
+private:
+    zebcore::UTF8String mImageBaseName;
 };
 
 }  // namespace controls

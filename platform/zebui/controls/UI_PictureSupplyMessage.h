@@ -1,7 +1,10 @@
 // The message in which a picture control asks for the image of its present state.
 #pragma once
 
+#include <boost/intrusive_ptr.hpp>
+
 #include "zebcore/utility/Flags.h"
+#include "zebui/inkwell/ImageInterface.h"
 #include "zebui/ui/MessageT.h"
 
 namespace zebui {
@@ -20,11 +23,17 @@ public:
     ~UI_PictureSupplyMessage() override;
 
     const ui::UI_Node* GetControl() const { return GetSender(); }
-    // The drawing state of the control; bit 1 is the pointer over it.
+    // The drawing state of the control: mask 1 pressed, mask 2 the pointer over it; mask 4
+    // asks for the plain image whatever else is set.
     StateFlags GetStateFlags() const { return mStateFlags; }
+
+    // The answer: the image the control draws, held by the message; null until set.
+    void SetImage(const boost::intrusive_ptr<inkwell::ImageInterface>& image) { mImage = image; }
+    const boost::intrusive_ptr<inkwell::ImageInterface>& GetImage() const { return mImage; }
 
 private:
     StateFlags mStateFlags;
+    boost::intrusive_ptr<inkwell::ImageInterface> mImage;
 };
 
 }  // namespace controls

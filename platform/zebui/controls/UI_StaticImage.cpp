@@ -8,5 +8,9 @@ UI_StaticImage::UI_StaticImage() = default;
 
 UI_StaticImage::~UI_StaticImage() = default;
 
+void UI_StaticImage::SetImageName(const zebcore::UTF8String& name) {
+    mImageName = name;
+}
+
 }  // namespace controls
 }  // namespace zebui

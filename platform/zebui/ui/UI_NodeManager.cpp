@@ -7,6 +7,8 @@
 #include "zebui/ui/KeyboardEvent.h"
 #include "zebui/ui/MouseEvent.h"
 #include "zebui/ui/UI_Node.h"
+#include "zebui/utility/InkwellImageResourceCache.h"
+#include "zebui/utility/ResourceManager.h"
 
 namespace zebui {
 namespace ui {
@@ -74,6 +76,17 @@ inkwell::SupplierInterface* UI_NodeManager::GetDefaultSupplier() const {
 
 void UI_NodeManager::SetDefaultSupplier(inkwell::SupplierInterface* supplier) {
     mDefaultSupplier = supplier;
+}
+
+// Never destroyed, like the manager.
+utility::ResourceManager* UI_NodeManager::GetResourceManager() const {
+    static auto* sResources = new utility::ResourceManager(u"zebui");
+    return sResources;
+}
+
+utility::InkwellImageResourceCache* UI_NodeManager::GetInkwellImageResourceCache() const {
+    static auto* sImages = new utility::InkwellImageResourceCache;
+    return sImages;
 }
 
 }  // namespace ui

@@ -9,6 +9,10 @@ namespace zebui {
 namespace inkwell {
 class SupplierInterface;
 }
+namespace utility {
+class InkwellImageResourceCache;
+class ResourceManager;
+}  // namespace utility
 namespace ui {
 
 class UI_Node;
@@ -57,6 +61,12 @@ public:
     // brings that one back. The manager does not own a supplier the host sets.
     inkwell::SupplierInterface* GetDefaultSupplier() const;
     void SetDefaultSupplier(inkwell::SupplierInterface* supplier);
+
+    // The toolkit's own resources, apart from the application's: the sub-folder "zebui"
+    // of the resources folder, and the images decoded from it. Both live as long as the
+    // process.
+    utility::ResourceManager* GetResourceManager() const;
+    utility::InkwellImageResourceCache* GetInkwellImageResourceCache() const;
 
 private:
     UI_NodeManager() = default;

@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "zebcore/filesupport/CommonDirs.h"
+#include "zebui/utility/Cursor.h"
 
 namespace zebui {
 namespace utility {
@@ -17,9 +18,14 @@ using zebcore::utility::UTF16to8;
 ResourceManager::ResourceManager(bool followsResourcesDir)
     : mFollowsResourcesDir(followsResourcesDir) {}
 
+ResourceManager::ResourceManager(const char16_t* subFolder)
+    : mFollowsResourcesDir(true), mSubFolder(subFolder ? subFolder : u"") {}
+
 std::vector<Dir> ResourceManager::searchFolders() const {
     std::vector<Dir> folders(mFolders.rbegin(), mFolders.rend());
-    if (mFollowsResourcesDir) folders.push_back(zebcore::filesupport::commondirs::ResourcesDir());
+    // Read at each search: the host may move the resources folder.
+    if (mFollowsResourcesDir)
+        folders.push_back(Dir(zebcore::filesupport::commondirs::ResourcesDir(), mSubFolder));
     return folders;
 }
 
@@ -53,6 +59,10 @@ bool ResourceManager::LoadResourceBytes(const zebcore::UTF16String& name,
 bool ResourceManager::ResourceExists(const zebcore::UTF16String& name,
                                      const zebcore::UTF16String& type) const {
     return !FindResourcePath(name, type).empty();
+}
+
+void ResourceManager::DisplayCursor(int cursorID) const {
+    DisplayResourceCursor(*this, cursorID);
 }
 
 void ResourceManager::AddFolder(const Dir& folder) {

@@ -10,10 +10,15 @@ namespace utility {
 
 // A resource (name, type) is the file <folder>/<type>/<name>.<type>, or failing
 // that <folder>/<type>/<name>. Added folders are searched first, newest first;
-// then the application's resources folder if this manager follows it.
+// then the application's resources folder (or a sub-folder of it) if this manager
+// follows it.
 class ResourceManager {
 public:
     explicit ResourceManager(bool followsResourcesDir = true);
+    // Follows <resources folder>/<subFolder>: the resources of one part of the
+    // application, apart from the others'. A pointer, not a string, so that a literal
+    // cannot fall to the bool constructor.
+    explicit ResourceManager(const char16_t* subFolder);
     virtual ~ResourceManager() = default;
 
     // Fills bytes with the whole resource; false (bytes cleared) when there is none.
@@ -30,11 +35,15 @@ public:
     void AddFolder(const zebcore::filesupport::Dir& folder);
     void RemoveFolder(const zebcore::filesupport::Dir& folder);
 
+    // Shows the cursor of this manager numbered cursorID (zebui/utility/Cursor.h).
+    virtual void DisplayCursor(int cursorID) const;
+
 private:
     std::vector<zebcore::filesupport::Dir> searchFolders() const;
 
     std::vector<zebcore::filesupport::Dir> mFolders;
     bool mFollowsResourcesDir;
+    zebcore::UTF16String mSubFolder;  // empty: the resources folder itself
 };
 
 }  // namespace utility

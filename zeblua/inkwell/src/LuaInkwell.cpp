@@ -4,15 +4,19 @@
 #include <lua.hpp>
 
 #include "zebcore/debug/Debug.h"
+#include "zebcore/utility/Strings.h"
 #include "zeblua/inkwell/src/InkProxyObjs/InkwellProxy.h"
 #include "zeblua/inkwell/src/LuaSupplier.h"
 #include "zeblua/inkwell/src/LuaSurfaceInterface.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zebui/controls/UI_ControlView.h"
+#include "zebui/inkwell/FontInterface.h"
 #include "zebui/inkwell/Inkwell.h"
 #include "zebui/inkwell/RedrawDebugFlash.h"
 #include "zebui/inkwell/SupplierInterface.h"
 #include "zebui/inkwell/SurfaceInterface.h"
+#include "zebui/ui/ThemeFonts.h"
 #include "zebui/ui/UI_NodeManager.h"
 
 namespace zeblua {
@@ -23,6 +27,7 @@ const char* const kZebLuaInkwellMetaTableName = "zeblua.zebInkwell";
 
 namespace {
 
+using zebui::inkwell::FontInterface;
 using zebui::inkwell::Inkwell;
 using zebui::inkwell::SupplierInterface;
 using zebui::inkwell::SurfaceInterface;
@@ -126,9 +131,39 @@ int inkwellNewInkwell(lua_State* L) {
     return 1;
 }
 
+// The width of text in a font of the application's default supplier; family null is the
+// theme's main family. The font is made at count 0 and never held: deleted here.
+float measureWithoutSurface(const char* text, float size, const char* family) {
+    const zebcore::UTF16String units = zebcore::utility::UTF8to16(text);
+    const zebcore::UTF16String familyUnits =
+        family ? zebcore::utility::UTF8to16(family) : zebui::ui::GetFontName(0);
+    FontInterface* font = zebui::ui::UI_NodeManager::Get(false)->GetDefaultSupplier()->MakeFont(
+        reinterpret_cast<const unsigned short*>(familyUnits.c_str()), nullptr, size);
+    if (!font) return 0.0f;
+    const float width = font->MeasureText(units, -1);
+    delete font;
+    return width;
+}
+
+// -- width = zebInkwell.MeasureStringWidth(text)
+// -- width = zebInkwell.MeasureStringWidth(text, nil, nil, fontSize, family)
+// Measures without a surface. Beyond the text the size comes from position 4 and the
+// family (UTF-8) from position 5, and positions 2 and 3 are never read: one argument or
+// five work, and two to four raise the argument error of the position that is missing.
+int inkwellMeasureStringWidth(lua_State* L) {
+    const char* text = luaL_checkstring(L, 1);
+    const int count = lua_gettop(L);
+    const lua_Number size =
+        count > 1 ? luaL_checknumber(L, 4) : zebui::controls::UI_ControlView::DefaultTextSize();
+    const char* family = count >= 3 ? luaL_checkstring(L, 5) : nullptr;
+    lua_pushnumber(L, measureWithoutSurface(text, static_cast<float>(size), family));
+    return 1;
+}
+
 const luaL_Reg kInkwellFunctions[] = {
     {"SetRedrawDebugFlashDelay", inkwellSetRedrawDebugFlashDelay},
     {"NewInkwell", inkwellNewInkwell},
+    {"MeasureStringWidth", inkwellMeasureStringWidth},
     {nullptr, nullptr},
 };
 

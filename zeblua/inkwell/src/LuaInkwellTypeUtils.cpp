@@ -6,6 +6,7 @@
 #include <lua.hpp>
 
 #include "zebcore/debug/Debug.h"
+#include "zeblua/utility/src/LuaInternedKeys.h"
 #include "zeblua/utility/src/LuaTableFields.h"
 
 namespace zeblua {
@@ -19,10 +20,42 @@ using zebcore::geom::PointT;
 using zebcore::geom::RectT;
 using zebui::inkwell::ColorRGBA;
 
-const char* const kColorConstructor = "zeblua_CreateNewRGBA";
-const char* const kRectConstructor = "zeblua_CreateNewRectF32";
-const char* const kPointConstructor = "zeblua_CreateNewPointF32";
-const char* const kMatrixConstructor = "zeblua_CreateNewMatrixF32";
+// The field names and the global constructors' names, interned once per state: a draw
+// path reads and writes these on every event.
+enum Key {
+    kX = 1,
+    kY,
+    kTop,
+    kLeft,
+    kHeight,
+    kWidth,
+    kRed,
+    kGreen,
+    kBlue,
+    kAlpha,
+    kColorConstructor,
+    kRectConstructor,
+    kPointConstructor,
+    kMatrixConstructor,
+};
+const char* const kKeyNames[] = {
+    "x",
+    "y",
+    "top",
+    "left",
+    "height",
+    "width",
+    "red",
+    "green",
+    "blue",
+    "alpha",
+    "zeblua_CreateNewRGBA",
+    "zeblua_CreateNewRectF32",
+    "zeblua_CreateNewPointF32",
+    "zeblua_CreateNewMatrixF32",
+};
+static_assert(sizeof kKeyNames / sizeof kKeyNames[0] == kMatrixConstructor, "one name per key");
+const utility::InternedKeys sKeys(kKeyNames);
 
 // The table check every reader starts with. False when the value on top of the stack is
 // nil: that is the top, not index, so a further nil argument after the table means "leave
@@ -33,11 +66,10 @@ bool tableToRead(lua_State* L, int index) {
 }
 
 // CheckNumberField's form with luaL_checkinteger and lua_tointeger.
-lua_Integer integerField(lua_State* L, int index, const char* name) {
-    lua_pushstring(L, name);
-    lua_gettable(L, index); /* value */
-    luaL_checkinteger(L, -1);
-    const lua_Integer value = lua_tointeger(L, -1);
+lua_Integer integerField(lua_State* L, int index, int keys, Key key) {
+    lua_rawgeti(L, keys, key);
+    lua_gettable(L, index);                             /* value */
+    const lua_Integer value = luaL_checkinteger(L, -1); /* lua_tointeger of the value */
     lua_pop(L, 1);
     return value;
 }
@@ -67,9 +99,12 @@ void pushElement(lua_State* L, int value) {
 // missing or failing constructor its error value stands where the table would, so exactly
 // one value is left either way.
 template <class T, std::size_t N>
-int callConstructor(lua_State* L, const char* constructor, const T (&elements)[N]) {
-    lua_checkstack(L, static_cast<int>(N) + 1);
-    lua_getfield(L, LUA_GLOBALSINDEX, constructor);
+int callConstructor(lua_State* L, Key constructor, const T (&elements)[N]) {
+    lua_checkstack(L, static_cast<int>(N) + 2);
+    const int keys = sKeys.Push(L);
+    lua_rawgeti(L, keys, constructor);
+    lua_gettable(L, LUA_GLOBALSINDEX); /* keys, constructor: by name, as lua_getfield */
+    lua_replace(L, keys);
     for (const T element : elements)
         pushElement(L, element);
     lua_pcall(L, static_cast<int>(N), 1, 0);
@@ -80,37 +115,45 @@ int callConstructor(lua_State* L, const char* constructor, const T (&elements)[N
 
 void GetPointF32FromLua(lua_State* L, int index, PointT<float>& point) {
     if (!tableToRead(L, index)) return;
-    const lua_Number x = CheckNumberField(L, index, "x");
-    const lua_Number y = CheckNumberField(L, index, "y");
+    const int keys = sKeys.Push(L);
+    const lua_Number x = CheckNumberField(L, index, keys, kX);
+    const lua_Number y = CheckNumberField(L, index, keys, kY);
+    lua_pop(L, 1);
     point = PointT<float>(static_cast<float>(x), static_cast<float>(y));
 }
 
 void GetRectF32FromLua(lua_State* L, int index, RectT<float>& rect) {
     if (!tableToRead(L, index)) return;
-    const lua_Number top = CheckNumberField(L, index, "top");
-    const lua_Number left = CheckNumberField(L, index, "left");
-    const lua_Number height = CheckNumberField(L, index, "height");
-    const lua_Number width = CheckNumberField(L, index, "width");
+    const int keys = sKeys.Push(L);
+    const lua_Number top = CheckNumberField(L, index, keys, kTop);
+    const lua_Number left = CheckNumberField(L, index, keys, kLeft);
+    const lua_Number height = CheckNumberField(L, index, keys, kHeight);
+    const lua_Number width = CheckNumberField(L, index, keys, kWidth);
+    lua_pop(L, 1);
     rect = RectT<float>(static_cast<float>(left), static_cast<float>(top),
                         static_cast<float>(width), static_cast<float>(height));
 }
 
 void GetRect32FromLua(lua_State* L, int index, RectT<int>& rect) {
     if (!tableToRead(L, index)) return;
-    const lua_Integer top = integerField(L, index, "top");
-    const lua_Integer left = integerField(L, index, "left");
-    const lua_Integer height = integerField(L, index, "height");
-    const lua_Integer width = integerField(L, index, "width");
+    const int keys = sKeys.Push(L);
+    const lua_Integer top = integerField(L, index, keys, kTop);
+    const lua_Integer left = integerField(L, index, keys, kLeft);
+    const lua_Integer height = integerField(L, index, keys, kHeight);
+    const lua_Integer width = integerField(L, index, keys, kWidth);
+    lua_pop(L, 1);
     rect = RectT<int>(static_cast<int>(left), static_cast<int>(top), static_cast<int>(width),
                       static_cast<int>(height));
 }
 
 void GetColorRGBAFromLua(lua_State* L, int index, ColorRGBA& colour) {
     if (!tableToRead(L, index)) return;
-    const lua_Number red = CheckNumberField(L, index, "red");
-    const lua_Number green = CheckNumberField(L, index, "green");
-    const lua_Number blue = CheckNumberField(L, index, "blue");
-    const lua_Number alpha = CheckNumberField(L, index, "alpha");
+    const int keys = sKeys.Push(L);
+    const lua_Number red = CheckNumberField(L, index, keys, kRed);
+    const lua_Number green = CheckNumberField(L, index, keys, kGreen);
+    const lua_Number blue = CheckNumberField(L, index, keys, kBlue);
+    const lua_Number alpha = CheckNumberField(L, index, keys, kAlpha);
+    lua_pop(L, 1);
     colour = ColorRGBA(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue),
                        static_cast<float>(alpha));
 }

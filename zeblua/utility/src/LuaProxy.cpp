@@ -6,14 +6,46 @@
 namespace zeblua {
 namespace utility {
 
+namespace {
+
+// Pushes the metatable registered under metatableName, or nil. Looking it up by name
+// hashes the whole name, on every proxy call; so the metatable is also kept in the
+// registry under the name's address, where a lookup hashes one pointer. That is sound
+// because names are the modules' constants, so one address always stands for one name,
+// and because a registered metatable is never replaced (luaL_newmetatable keeps the
+// first).
+void pushMetatable(lua_State* L, const char* metatableName) {
+    void* address = const_cast<char*>(metatableName);
+    lua_pushlightuserdata(L, address);
+    lua_rawget(L, LUA_REGISTRYINDEX);
+    if (!lua_isnil(L, -1)) return;
+    lua_pop(L, 1);
+    luaL_getmetatable(L, metatableName);
+    if (lua_isnil(L, -1)) return;  // the module is not open: nothing to remember yet
+    lua_pushlightuserdata(L, address);
+    lua_pushvalue(L, -2);
+    lua_rawset(L, LUA_REGISTRYINDEX); /* registry[lightud(name)] = metatable */
+}
+
+}  // namespace
+
 void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName) {
     void* block = lua_newuserdata(L, size);
-    luaL_getmetatable(L, metatableName);
+    pushMetatable(L, metatableName);
     lua_setmetatable(L, -2);
     return block;
 }
 
+// luaL_checkudata's test with the metatable found by address. Whatever fails it goes to
+// luaL_checkudata itself, which raises its own error.
 void* CheckProxyBlock(lua_State* L, int index, const char* metatableName) {
+    void* block = lua_touserdata(L, index);
+    if (block && lua_getmetatable(L, index)) {
+        pushMetatable(L, metatableName);
+        const bool matches = lua_rawequal(L, -1, -2) != 0;
+        lua_pop(L, 2);
+        if (matches) return block;
+    }
     return luaL_checkudata(L, index, metatableName);
 }
 

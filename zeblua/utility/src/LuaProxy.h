@@ -23,6 +23,8 @@ template <class T> struct OwnedPointer {
 };
 
 // --- Non-template core ---------------------------------------------------------------
+// metatableName is always a module's constant name: its address is remembered per state
+// in place of hashing the name on every call, so it must not be a passing buffer.
 
 // Pushes a new userdata of size bytes with the metatable registered under
 // metatableName (none if that module has not been opened). Raises only Lua's memory error.

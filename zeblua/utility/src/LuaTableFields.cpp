@@ -15,6 +15,14 @@ bool hasFieldName(const char* inFieldName) {
     return inFieldName != nullptr;
 }
 
+// The CheckNumberField forms once their key is on top of the stack.
+double checkNumberAtKey(lua_State* L, int index) {
+    lua_gettable(L, index);                           /* value */
+    const lua_Number value = luaL_checknumber(L, -1); /* lua_tonumber of the value */
+    lua_pop(L, 1);
+    return value;
+}
+
 }  // namespace
 
 int GetIntegerField(lua_State* L, int index, const char* inFieldName) {
@@ -45,11 +53,12 @@ zebcore::UTF8String GetStringField(lua_State* L, int index, const char* inFieldN
 
 double CheckNumberField(lua_State* L, int index, const char* name) {
     lua_pushstring(L, name);
-    lua_gettable(L, index); /* value */
-    luaL_checknumber(L, -1);
-    const lua_Number value = lua_tonumber(L, -1);
-    lua_pop(L, 1);
-    return value;
+    return checkNumberAtKey(L, index);
+}
+
+double CheckNumberField(lua_State* L, int index, int keysIndex, int key) {
+    lua_rawgeti(L, keysIndex, key);
+    return checkNumberAtKey(L, index);
 }
 
 }  // namespace utility

@@ -29,6 +29,9 @@ zebcore::UTF8String GetStringField(lua_State* L, int index, const char* inFieldN
 // non-numeric field raises Lua's argument error at position -1: call it with no C++
 // object alive in the calling frames.
 double CheckNumberField(lua_State* L, int index, const char* name);
+// The same with the name pushed from slot key of the InternedKeys table at keysIndex, so
+// that nothing is hashed: the same key string, the same lookup, the same errors.
+double CheckNumberField(lua_State* L, int index, int keysIndex, int key);
 
 }  // namespace utility
 }  // namespace zeblua

@@ -28,7 +28,7 @@ using zebui::inkwell::Inkwell;
 using zebui::inkwell::SurfaceInterface;
 
 // Scoped surface records by the Inkwell whose scope ends them. Lua owns the records;
-// each listed one is held in the registry (sScopeAnchorsKey) until it leaves the list.
+// each listed one is anchored (sScopeAnchorsKey) until it leaves the list.
 std::map<Inkwell*, std::list<InkwellProxy*>> sLinkedObjects;
 
 // Every surface record the collector has not taken, for checking light userdata.
@@ -39,8 +39,12 @@ InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false};
 
 // Registry keys, by address. Light userdata keys cost no allocation to look up or clear,
 // so a scope can close during unwinding without the risk of a Lua memory error.
-char sScopeAnchorsKey;  // [lightud(Inkwell*)] = {surface userdata, ...}
-char sKeptValuesKey;    // weak keys: [proxy userdata] = {[KeptSlot] = value}
+// One anchor table holds the Inkwell proxy of every open scope and every listed surface
+// record: few live keys at a time, so a new key mostly takes a released one's slot, and a
+// scope costs no table of its own. One weak table per slot, so that keeping a value costs
+// no table per proxy either.
+char sScopeAnchorsKey;                        // [lightud(record)] = its userdata
+char sKeptValuesKeys[kKeptBoundSurface + 1];  // per KeptSlot, weak keys: [proxy] = value
 
 // Pushes the registry table under key, or nil.
 void pushRegistryTable(lua_State* L, char* key) {
@@ -80,40 +84,24 @@ void clearPresentField(lua_State* L, int tableIndex) {
     }
 }
 
-// Holds the userdata on top of the stack (left there) until the scope on inkwell ends.
-void anchorInScope(lua_State* L, Inkwell* inkwell) {
+// Holds the userdata on top of the stack (left there), whose block is record, until
+// releaseAnchor.
+void anchor(lua_State* L, InkwellProxy* record) {
     pushOrMakeRegistryTable(L, &sScopeAnchorsKey, false); /* ud, anchors */
-    lua_pushlightuserdata(L, inkwell);
-    lua_rawget(L, -2); /* ud, anchors, list */
-    if (lua_isnil(L, -1)) {
-        lua_pop(L, 1);
-        lua_newtable(L);
-        lua_pushlightuserdata(L, inkwell);
-        lua_pushvalue(L, -2);
-        lua_rawset(L, -4); /* anchors[inkwell] = list */
-    }
+    lua_pushlightuserdata(L, record);
     lua_pushvalue(L, -3);
-    lua_rawseti(L, -2, static_cast<int>(lua_objlen(L, -2)) + 1);
-    lua_pop(L, 2); /* ud */
-}
-
-void releaseScopeAnchors(lua_State* L, Inkwell* inkwell) {
-    pushRegistryTable(L, &sScopeAnchorsKey);
-    if (lua_istable(L, -1)) {
-        lua_pushlightuserdata(L, inkwell);
-        clearPresentField(L, lua_gettop(L) - 1);
-    }
+    lua_rawset(L, -3); /* anchors[record] = ud */
     lua_pop(L, 1);
 }
 
-// Pushes the slot table of the proxy at proxyIndex (absolute), or nil.
-void pushKeptSlots(lua_State* L, int proxyIndex) {
-    pushRegistryTable(L, &sKeptValuesKey);
+// Lets the collector have record again; raises no Lua error.
+void releaseAnchor(lua_State* L, InkwellProxy* record) {
+    pushRegistryTable(L, &sScopeAnchorsKey);
     if (lua_istable(L, -1)) {
-        lua_pushvalue(L, proxyIndex);
-        lua_rawget(L, -2);
-        lua_remove(L, -2);
+        lua_pushlightuserdata(L, record);
+        clearPresentField(L, lua_gettop(L) - 1);
     }
+    lua_pop(L, 1);
 }
 
 int absoluteIndex(lua_State* L, int index) {
@@ -125,17 +113,14 @@ int absoluteIndex(lua_State* L, int index) {
 AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& argCount)
     : mL(L), mProxy(nullptr) {
     newProxyFromInkwell(L, inkwell, &mProxy);
-    lua_pushlightuserdata(L, mProxy);
-    lua_pushvalue(L, -2);
-    lua_rawset(L, LUA_REGISTRYINDEX); /* registry[lightud(record)] = proxy, for the scope */
+    anchor(L, mProxy); /* for the scope */
     argCount = 1;
 }
 
 AcquireInkwellProxy::~AcquireInkwellProxy() {
     EndInkwellScope(mL, mProxy->inkwell);
     InvalidateProxy(mProxy);
-    lua_pushlightuserdata(mL, mProxy);
-    clearPresentField(mL, LUA_REGISTRYINDEX);
+    releaseAnchor(mL, mProxy);
 }
 
 int newProxyFromInkwell(lua_State* L, Inkwell* inkwell, InkwellProxy** out) {
@@ -164,7 +149,7 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
         sSurfaceRecords.insert(proxy);
     }
     if (!owned) {
-        anchorInScope(L, inkwell);
+        anchor(L, proxy);
         if (parent) parent->surfaceProxy = proxy;
         SurfaceBeginScope(inkwell, proxy);
     }
@@ -193,8 +178,13 @@ void InvalidateProxy(InkwellProxy* proxy) {
 }
 
 void EndInkwellScope(lua_State* L, Inkwell* inkwell) {
+    const auto found = sLinkedObjects.find(inkwell);
+    if (found == sLinkedObjects.end()) return;
+    // Clearing a present field never allocates, so no collection can take a record before
+    // InvalidateInkwellSubObjects has written to it.
+    for (InkwellProxy* record : found->second)
+        releaseAnchor(L, record);
     InvalidateInkwellSubObjects(inkwell);
-    releaseScopeAnchors(L, inkwell);  // after the writes: the records may go from here on
 }
 
 InkwellProxy* SurfaceRecordAt(lua_State* L, int index) {
@@ -215,39 +205,34 @@ void ForgetSurfaceRecord(InkwellProxy* record) {
 
 void KeepWithProxy(lua_State* L, int proxyIndex, KeptSlot slot) {
     proxyIndex = absoluteIndex(L, proxyIndex);
-    pushOrMakeRegistryTable(L, &sKeptValuesKey, true); /* value, kept */
+    pushOrMakeRegistryTable(L, &sKeptValuesKeys[slot], true); /* value, kept */
     lua_pushvalue(L, proxyIndex);
-    lua_rawget(L, -2); /* value, kept, slots */
-    if (lua_isnil(L, -1)) {
-        lua_pop(L, 1);
-        lua_createtable(L, 2, 0);
-        lua_pushvalue(L, proxyIndex);
-        lua_pushvalue(L, -2);
-        lua_rawset(L, -4); /* kept[proxy] = slots */
-    }
     lua_pushvalue(L, -3);
-    lua_rawseti(L, -2, slot);
-    lua_pop(L, 3);
+    lua_rawset(L, -3); /* kept[proxy] = value */
+    lua_pop(L, 2);
 }
 
 void PushKeptValue(lua_State* L, int proxyIndex, KeptSlot slot) {
-    pushKeptSlots(L, absoluteIndex(L, proxyIndex));
+    proxyIndex = absoluteIndex(L, proxyIndex);
+    pushRegistryTable(L, &sKeptValuesKeys[slot]);
     if (lua_istable(L, -1)) {
-        lua_rawgeti(L, -1, slot);
+        lua_pushvalue(L, proxyIndex);
+        lua_rawget(L, -2);
         lua_remove(L, -2);
     }
 }
 
 void DropKeptValue(lua_State* L, int proxyIndex, KeptSlot slot) {
-    pushKeptSlots(L, absoluteIndex(L, proxyIndex));
+    proxyIndex = absoluteIndex(L, proxyIndex);
+    pushRegistryTable(L, &sKeptValuesKeys[slot]);
     if (lua_istable(L, -1)) {
-        lua_pushinteger(L, slot);
+        lua_pushvalue(L, proxyIndex);
         clearPresentField(L, lua_gettop(L) - 1);
     }
     lua_pop(L, 1);
 }
 
-const zebui::inkwell::SupplierInterface* DrawingSupplierOf(const InkwellProxy* proxy) {
+zebui::inkwell::SupplierInterface* DrawingSupplierOf(const InkwellProxy* proxy) {
     if (proxy->inkwell && proxy->inkwell->GetSupplier()) return proxy->inkwell->GetSupplier();
     if (proxy->surface && proxy->surface->GetSupplier()) return proxy->surface->GetSupplier();
     return zebui::ui::UI_NodeManager::Get(false)->GetDefaultSupplier();

@@ -50,7 +50,6 @@ public:
 private:
     lua_State* mL;
     InkwellProxy* mProxy;
-    int mAnchor;
 };
 
 // Pushes an Inkwell proxy that lends inkwell, outside any scope; returns 1.
@@ -103,7 +102,7 @@ void DropKeptValue(lua_State* L, int proxyIndex, KeptSlot slot);
 
 // The supplier that makes objects for a proxy: its Inkwell's, else its surface's, else
 // the application's default. Never null.
-const zebui::inkwell::SupplierInterface* DrawingSupplierOf(const InkwellProxy* proxy);
+zebui::inkwell::SupplierInterface* DrawingSupplierOf(const InkwellProxy* proxy);
 
 }  // namespace inkwell
 }  // namespace zeblua

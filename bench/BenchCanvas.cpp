@@ -1,0 +1,30 @@
+// Drawing targets and set-up scopes for the benchmarks.
+#include "bench/BenchCanvas.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include <lua.hpp>
+
+#include "zeblua/inkwell/src/InkProxyObjs/InkwellProxy.h"
+
+namespace zebbench {
+
+BenchCanvas::BenchCanvas()
+    : surface(supplier.MakeOffscreenCairoSurface(16, 16, false)),
+      inkwell(&supplier, surface.get()) {}
+
+void CallInScope(lua_State* L, zebui::inkwell::Inkwell& inkwell, int nresults) {
+    int argCount = 0;
+    int status = 0;
+    {
+        zeblua::inkwell::AcquireInkwellProxy scope(L, &inkwell, argCount);
+        status = lua_pcall(L, argCount, nresults, 0);
+    }
+    if (status != 0) {
+        std::fprintf(stderr, "benchmark set-up failed in a draw scope: %s\n", lua_tostring(L, -1));
+        std::exit(2);
+    }
+}
+
+}  // namespace zebbench

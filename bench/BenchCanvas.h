@@ -1,0 +1,29 @@
+// A real drawing target for the benchmarks, and draw scopes opened on it from C++ exactly
+// as a draw hook opens them.
+#pragma once
+
+#include <boost/intrusive_ptr.hpp>
+
+#include "zebui/inkwell/Inkwell.h"
+#include "zebui/inkwell/cairo/CairoSupplier.h"
+#include "zebui/inkwell/cairo/CairoSurface.h"
+
+struct lua_State;
+
+namespace zebbench {
+
+// The Inkwell that scopes are opened on, over a small surface of its own. The supplier
+// outlives the surface it made, which outlives the Inkwell over it.
+struct BenchCanvas {
+    BenchCanvas();
+
+    zebui::inkwell::CairoSupplier supplier;
+    boost::intrusive_ptr<zebui::inkwell::CairoSurface> surface;
+    zebui::inkwell::Inkwell inkwell;
+};
+
+// Calls the Lua function on top of the stack (popped) with a scoped Inkwell proxy for
+// inkwell, keeping its nresults results on the stack; a Lua error aborts the program.
+void CallInScope(lua_State* L, zebui::inkwell::Inkwell& inkwell, int nresults);
+
+}  // namespace zebbench

@@ -1,0 +1,176 @@
+// Figures to ratios: the table on stdout and report.json.
+#include "bench/RatioReporter.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <utility>
+
+#include "bench/BenchRegistry.h"
+
+namespace zebbench {
+
+namespace {
+
+using Run = benchmark::BenchmarkReporter::Run;
+
+double nanoseconds(const Run& run) {
+    return run.GetAdjustedCPUTime() * 1e9 / benchmark::GetTimeUnitMultiplier(run.time_unit);
+}
+
+// The run that stands for the figure: the median aggregate when there were repetitions.
+const Run* representative(const std::vector<Run>& runs) {
+    const Run* chosen = nullptr;
+    for (const Run& run : runs) {
+        if (run.error_occurred) continue;
+        if (run.run_type == Run::RT_Aggregate) {
+            if (run.aggregate_name == "median") return &run;
+        } else {
+            chosen = &run;
+        }
+    }
+    return chosen;
+}
+
+std::string jsonString(const std::string& text) {
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') quoted += '\\';
+        quoted += c;
+    }
+    return quoted + "\"";
+}
+
+std::string jsonNumber(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.4g", value);
+    return text;
+}
+
+std::string utcNow() {
+    char text[32];
+    const std::time_t now = std::time(nullptr);
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", std::gmtime(&now));
+    return text;
+}
+
+}  // namespace
+
+RatioReporter::RatioReporter(std::string jsonPath, std::string commit)
+    : mJsonPath(std::move(jsonPath)), mCommit(std::move(commit)) {}
+
+bool RatioReporter::ReportContext(const Context& context) {
+    mCpus = context.cpu_info.num_cpus;
+    mMhz = context.cpu_info.cycles_per_second / 1e6;
+    std::fprintf(stderr, "zeblua boundary benchmarks: %zu figures on %d CPUs\n", Figures().size(),
+                 mCpus);
+    return true;
+}
+
+void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
+    const Run* run = representative(runs);
+    if (!run) return;
+    const std::string id = run->run_name.function_name;
+    const Figure* figure = FindFigure(id);
+    if (!figure) return;
+    if (run->run_type == Run::RT_Aggregate)
+        mRepetitions = static_cast<int>(run->repetitions);
+    else
+        mStatistic = "single run";
+    mNsPerOp[id] = nanoseconds(*run) / figure->ops;
+    std::fprintf(stderr, "  %-28s %12.2f ns/op\n", id.c_str(), mNsPerOp[id]);
+}
+
+void RatioReporter::Finalize() {
+    const std::vector<Row> table = rows();
+    printTable(table);
+    if (!mJsonPath.empty()) mOk = writeJSON(table);
+}
+
+// Floors in registration order, each followed by its cases; a case whose floor did not
+// run comes last, without a ratio.
+std::vector<RatioReporter::Row> RatioReporter::rows() const {
+    std::vector<Row> result;
+    auto measured = [this](const std::string& id) {
+        const auto found = mNsPerOp.find(id);
+        return found == mNsPerOp.end() ? 0.0 : found->second;
+    };
+    auto addCases = [&](const std::string& floor, double floorNs) {
+        for (const Figure& figure : Figures()) {
+            if (figure.floor.empty() || figure.floor != floor) continue;
+            const double ns = measured(figure.id);
+            if (ns <= 0) continue;
+            const double ratio = floorNs > 0 ? ns / floorNs : 0.0;
+            result.push_back(Row{figure.id, figure.label, figure.floor, ns, floorNs, ratio});
+        }
+    };
+    for (const Figure& figure : Figures()) {
+        if (!figure.floor.empty()) continue;
+        const double ns = measured(figure.id);
+        if (ns <= 0) continue;
+        result.push_back(Row{figure.id, figure.label, "", ns, 0.0, 0.0});
+        addCases(figure.id, ns);
+    }
+    std::vector<std::string> unmeasured;
+    for (const Figure& figure : Figures()) {
+        if (figure.floor.empty() || measured(figure.floor) > 0) continue;
+        if (std::find(unmeasured.begin(), unmeasured.end(), figure.floor) != unmeasured.end())
+            continue;
+        unmeasured.push_back(figure.floor);
+        addCases(figure.floor, 0.0);
+    }
+    return result;
+}
+
+void RatioReporter::printTable(const std::vector<Row>& table) const {
+    std::FILE* out = stdout;
+    std::fprintf(out, "\nCPU ns per operation (%s", mStatistic.c_str());
+    if (mRepetitions > 0) std::fprintf(out, " of %d", mRepetitions);
+    std::fprintf(out, "); ratio = case / its floor, both measured in this process.\n\n");
+    std::fprintf(out, "%-50s %12s %12s %9s\n", "figure", "ns/op", "floor ns/op", "ratio");
+    for (const Row& row : table) {
+        if (row.floor.empty()) {
+            std::fprintf(out, "%-50s %12.2f\n", ("[floor] " + row.label).c_str(), row.nsPerOp);
+        } else if (row.ratio > 0) {
+            std::fprintf(out, "%-50s %12.2f %12.2f %8.2fx\n", ("  " + row.label).c_str(),
+                         row.nsPerOp, row.floorNsPerOp, row.ratio);
+        } else {
+            std::fprintf(out, "%-50s %12.2f %12s %9s\n", ("  " + row.label).c_str(), row.nsPerOp,
+                         "-", "-");
+        }
+    }
+    std::fflush(out);
+}
+
+bool RatioReporter::writeJSON(const std::vector<Row>& table) const {
+    std::ofstream out(mJsonPath);
+    if (!out) return false;
+    out << "{\n  \"context\": {\n"
+        << "    \"date\": " << jsonString(utcNow()) << ",\n"
+        << "    \"commit\": " << jsonString(mCommit) << ",\n"
+        << "    \"num_cpus\": " << mCpus << ",\n"
+        << "    \"mhz_per_cpu\": " << jsonNumber(mMhz) << ",\n"
+        << "    \"time\": \"cpu\",\n"
+        << "    \"statistic\": " << jsonString(mStatistic) << ",\n"
+        << "    \"repetitions\": " << mRepetitions << "\n"
+        << "  },\n  \"figures\": [";
+    const char* separator = "\n";
+    for (const Row& row : table) {
+        out << separator << "    {\"id\": " << jsonString(row.id)
+            << ", \"label\": " << jsonString(row.label)
+            << ", \"ns_per_op\": " << jsonNumber(row.nsPerOp);
+        if (!row.floor.empty()) {
+            out << ", \"floor\": " << jsonString(row.floor);
+            if (row.ratio > 0)
+                out << ", \"floor_ns_per_op\": " << jsonNumber(row.floorNsPerOp)
+                    << ", \"ratio\": " << jsonNumber(row.ratio);
+        }
+        out << "}";
+        separator = ",\n";
+    }
+    out << "\n  ]\n}\n";
+    return static_cast<bool>(out);
+}
+
+}  // namespace zebbench

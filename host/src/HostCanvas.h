@@ -1,0 +1,19 @@
+// zebhost.canvas: a script draws into pixels of its own and may write them as a PNG.
+#pragma once
+
+struct lua_State;
+
+namespace zebhost {
+
+// -- ok = zebhost.canvas(width, height, fn [, pngPath])
+// Makes a transparent offscreen surface of the headless back end and an Inkwell over it,
+// and calls fn(ink) inside a draw scope exactly as a node's draw hook does: the surface's
+// state pushed, anti-aliasing at medium, the scope closed and the state popped when fn
+// returns, so a proxy fn keeps is dead afterwards. Writes the pixels to pngPath, making
+// its missing folders, when one is given (nil counts as none); returns true.
+// Unlike a draw hook, an error in fn is not dropped: it is raised again, unchanged, once
+// the scope is closed and the state popped, and no file is written. Every argument is
+// read before anything is made.
+int HostCanvas(lua_State* L);
+
+}  // namespace zebhost

@@ -1,0 +1,18 @@
+// The application's workspace.
+#include "zebworkspace/workspace/Workspace.h"
+
+#include "zebui/ui/UI_NodeManager.h"
+
+namespace zebworkspace {
+namespace workspace {
+
+Workspace::Workspace() = default;
+
+Workspace::~Workspace() = default;
+
+zebui::inkwell::SupplierInterface* Workspace::GetSupplier() const {
+    return zebui::ui::UI_NodeManager::Get(false)->GetDefaultSupplier();
+}
+
+}  // namespace workspace
+}  // namespace zebworkspace

@@ -1,0 +1,80 @@
+// Interned keys: the very strings lua_pushstring gives, one table per state, and field
+// reads through them that fail exactly as reads by name do.
+#include <string>
+
+#include <lua.hpp>
+
+#include "tests/LuaTestFixture.h"
+#include "zeblua/utility/src/LuaInternedKeys.h"
+#include "zeblua/utility/src/LuaTableFields.h"
+
+namespace zu = zeblua::utility;
+
+namespace {
+
+const char* const kNames[] = {"top", "left", "a rather longer key than the others"};
+const zu::InternedKeys sKeys(kNames);
+
+// -- readTop(t), readTopByName(t): CheckNumberField of "top" through either form.
+int readTop(lua_State* L) {
+    const int keys = sKeys.Push(L);
+    lua_pushnumber(L, zu::CheckNumberField(L, 1, keys, 1));
+    return 1;
+}
+
+int readTopByName(lua_State* L) {
+    lua_pushnumber(L, zu::CheckNumberField(L, 1, "top"));
+    return 1;
+}
+
+}  // namespace
+
+class LuaInternedKeysTest : public LuaTest {};
+
+TEST_F(LuaInternedKeysTest, KeysAreTheStatesOwnStringsMadeOncePerState) {
+    const int keys = sKeys.Push(L);
+    EXPECT_EQ(keys, 1);
+    EXPECT_EQ(sKeys.Push(L), 2);
+    EXPECT_TRUE(lua_rawequal(L, 1, 2)) << "one table per state, made once";
+    for (int key = 1; key <= 3; ++key) {
+        lua_rawgeti(L, keys, key);
+        lua_pushstring(L, kNames[key - 1]);
+        EXPECT_TRUE(lua_rawequal(L, -1, -2)) << kNames[key - 1];
+        lua_pop(L, 2);
+    }
+    lua_rawgeti(L, keys, 4);
+    EXPECT_TRUE(lua_isnil(L, -1));
+
+    // Another state has its own table, not a stale reference into this one.
+    lua_State* other = luaL_newstate();
+    ASSERT_NE(other, nullptr);
+    lua_pushnil(other);
+    EXPECT_EQ(sKeys.Push(other), 2);
+    lua_rawgeti(other, 2, 2);
+    EXPECT_STREQ(lua_tostring(other, -1), "left");
+    lua_close(other);
+
+    // The table lives in the registry, not on the stack it was first pushed on.
+    lua_settop(L, 0);
+    lua_gc(L, LUA_GCCOLLECT, 0);
+    sKeys.Push(L);
+    lua_rawgeti(L, 1, 3);
+    EXPECT_STREQ(lua_tostring(L, -1), kNames[2]);
+}
+
+TEST_F(LuaInternedKeysTest, ReadsThroughAKeyBehaveAsReadsByName) {
+    lua_register(L, "read", readTop);
+    runLua("logged = setmetatable({}, {__index = function(_, key) seen = key return 7 end})");
+    EXPECT_EQ(luaValue("read({top = 3})"), "3");
+    EXPECT_EQ(luaValue("read(logged)"), "7");
+    EXPECT_EQ(luaValue("rawequal(seen, 'top')"), "true");
+    const char* const calls[] = {"read({})", "read({top = 'x'})", "read({top = {}})"};
+    for (const char* call : calls) {
+        lua_register(L, "read", readTopByName);
+        const std::string byName = luaError(call);
+        EXPECT_NE(byName.find("bad argument #-1 to 'read' (number expected"), std::string::npos)
+            << byName;
+        lua_register(L, "read", readTop);
+        EXPECT_EQ(luaError(call), byName);
+    }
+}
