@@ -251,14 +251,19 @@ int surfaceMeasureStringWidth(lua_State* L) {
     return 1;
 }
 
+// The rect at argument 2 and the colour at argument 3, read in that order.
+void readRectAndColour(lua_State* L, RectT<float>& rect, ColorRGBA& colour) {
+    GetRectF32FromLua(L, 2, rect);
+    GetColorRGBAFromLua(L, 3, colour);
+}
+
 // -- surface:PaintRect(rect, colour)
 int surfacePaintRect(lua_State* L) {
     InkwellProxy* proxy = liveSurface(L);
     if (!proxy) return 0;
     RectT<float> rect;
     ColorRGBA colour;
-    GetRectF32FromLua(L, 2, rect);
-    GetColorRGBAFromLua(L, 3, colour);
+    readRectAndColour(L, rect, colour);
     proxy->surface->PaintRect(colour, rect);
     return 0;
 }
@@ -270,8 +275,7 @@ int surfaceDrawOutline(lua_State* L) {
     if (!proxy) return 0;
     RectT<float> rect;
     ColorRGBA colour;
-    GetRectF32FromLua(L, 2, rect);
-    GetColorRGBAFromLua(L, 3, colour);
+    readRectAndColour(L, rect, colour);
     const lua_Number cornerRadius = optionalNumber(L, 4, 0);
     const lua_Number lineWidth = optionalNumber(L, 5, 1.0);
     drawOutline(*proxy, rect, colour, static_cast<float>(cornerRadius),
@@ -285,8 +289,7 @@ int surfaceDrawRoundedFill(lua_State* L) {
     if (!proxy) return 0;
     RectT<float> rect;
     ColorRGBA colour;
-    GetRectF32FromLua(L, 2, rect);
-    GetColorRGBAFromLua(L, 3, colour);
+    readRectAndColour(L, rect, colour);
     const lua_Number cornerRadius = luaL_checknumber(L, 4);
     drawRoundedFill(*proxy, rect, colour, static_cast<float>(cornerRadius));
     return 0;
