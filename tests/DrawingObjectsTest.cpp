@@ -235,6 +235,33 @@ TEST_F(DrawingObjectsTest, ReleasedObjectsReportWhereTheyAreUsedAndReleaseTwiceI
     collectGarbage();
 }
 
+// A point or rect field's __index may release the very path being built: the method looks
+// at the path again once its tables are read, and reports instead of using a freed path.
+TEST_F(DrawingObjectsTest, APathReleasedWhileItsArgumentsAreReadIsLookedAtAgain) {
+    runLua(R"(
+        function releasing(victim)
+            local done = false
+            return setmetatable({}, {__index = function()
+                if not done then done = true; victim:Release() end
+                return 1
+            end})
+        end
+        function make(ink) paths = {} for i = 1, 3 do paths[i] = PathInterface.newPath(ink) end end
+    )");
+    draw(mCanvas.inkwell, "make");
+    const char* const calls[] = {
+        "paths[1]:BezierTo(point(0, 0), releasing(paths[1]), point(2, 2))",
+        "paths[2]:AddRect(releasing(paths[2]))",
+        "paths[3]:AddArc(releasing(paths[3]), 1)",
+    };
+    for (const char* call : calls) {
+        zebcore::debug::ClearRecordedAssertReports();
+        EXPECT_EQ(resultCount(call), 0) << call;
+        EXPECT_EQ(zebcore::debug::RecordedAssertReports().size(), 1u) << call;
+        EXPECT_EQ(reportCount(kPathReleased), 1) << call;
+    }
+}
+
 TEST_F(DrawingObjectsTest, PenPropertiesAndDashPatternsReachThePen) {
     runLua(R"(
         function make(ink) pen = PenInterface.newPen(ink, red, 1) end

@@ -1,5 +1,7 @@
 // The glue kit: bound functions, callback forms, table fields, proxies, zebLogging, debugSupport.
 #include <cstdio>
+#include <cstring>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -18,6 +20,7 @@
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaProxy.h"
 #include "zeblua/utility/src/LuaTableFields.h"
+#include "zeblua/utility/src/RunNative.h"
 
 namespace zu = zeblua::utility;
 
@@ -350,6 +353,34 @@ TEST_F(GlueTest, TableFieldHelpersKeepTheStackHeight) {
     ASSERT_EQ(reports.size(), 3u);
     for (const auto& report : reports)
         EXPECT_EQ(report.expression, "inFieldName != NULL");
+}
+
+// thrower(kind): C++ work under RunNative that holds a string and then throws, or not.
+int throwingBinding(lua_State* L) {
+    const char* kind = luaL_checkstring(L, 1);
+    return zu::RunNative(L, "Thrower", [&] {
+        const std::string held(100, 'x');  // LeakSanitizer sees it if a longjmp skips it
+        if (std::strcmp(kind, "std") == 0) throw std::runtime_error("bad " + held.substr(0, 3));
+        if (std::strcmp(kind, "long") == 0) throw std::length_error(std::string(1000, 'y'));
+        if (std::strcmp(kind, "other") == 0) throw 7;
+        lua_pushinteger(L, static_cast<lua_Integer>(held.size()));
+        return 1;
+    });
+}
+
+TEST_F(GlueTest, RunNativeRaisesWhatItsWorkThrowsOnceTheWorkHasUnwound) {
+    lua_register(L, "thrower", throwingBinding);
+    EXPECT_EQ(luaValue("thrower('none')"), "100");
+    // Raised with luaL_error, so with the caller's position.
+    EXPECT_EQ(luaError("thrower('std')"), "test:1: Thrower: bad xxx");
+    EXPECT_EQ(luaError("thrower('other')"), "test:1: Thrower: unknown exception");
+    // A long what() is cut to the buffer, terminator included.
+    const std::string prefix = "Thrower: ";
+    EXPECT_EQ(luaError("thrower('long')"),
+              "test:1: " + prefix + std::string(zu::kNativeMessageSize - 1 - prefix.size(), 'y'));
+    // The state goes on as after any Lua error, protected calls included.
+    EXPECT_EQ(luaValue("select(2, pcall(thrower, 'std'))"), "Thrower: bad xxx");  // no position
+    EXPECT_EQ(luaValue("thrower('none')"), "100");
 }
 
 TEST_F(GlueTest, LuaExceptionDefaultsToTheLocalizedUnknownMessage) {

@@ -12,6 +12,7 @@
 #include <lua.hpp>
 
 #include "tests/DrawingTestFixture.h"
+#include "tests/FailingAllocator.h"
 #include "zebcore/debug/Debug.h"
 #include "zebui/inkwell/ImageInterface.h"
 
@@ -128,6 +129,31 @@ TEST_F(HostCanvasTest, EveryArgumentIsCheckedBeforeTheFunctionRuns) {
     }
     // Only the call with a path that cannot be written got as far as drawing.
     EXPECT_EQ(luaValue("calls"), "1");
+}
+
+// A Lua memory error at any step, the draw scope's own pushes included, still frees the
+// canvas's surface and Inkwell and comes back as the script's error. LeakSanitizer checks
+// that no failing run left anything behind.
+TEST_F(HostCanvasTest, AMemoryErrorAtAnyStepLeavesNothingBehind) {
+    InstallFailingAllocator(L);
+    runLua(R"(
+        local draw = function(ink) ink:GetSurface():PaintRect(rect(0, 0, 8, 8), red) end
+        failures, drawn = 0, 0
+        for n = 1, 24 do
+            failAllocation(n)
+            local ok, message = pcall(zebhost.canvas, 8, 8, draw)
+            failAllocation(0)
+            if ok then
+                drawn = drawn + 1
+            else
+                assert(message == "not enough memory", message)
+                failures = failures + 1
+            end
+        end
+    )");
+    EXPECT_GT(std::stoi(luaValue("failures")), 2);
+    EXPECT_GT(std::stoi(luaValue("drawn")), 0);
+    EXPECT_EQ(reportCount("Attempting to use an out-of-scope Inkwell"), 0);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <lua.hpp>
 
 #include "tests/DrawingTestFixture.h"
+#include "tests/FailingAllocator.h"
 #include "zebcore/debug/Debug.h"
 
 namespace {
@@ -394,6 +395,86 @@ TEST_F(SurfaceApiTest, AnOffscreenSurfaceDrawsOntoAnotherWholeScaledAndInPart) {
     EXPECT_EQ(half[0], 0);
     EXPECT_GT(half[2], 250);
     EXPECT_TRUE(mCanvas.isClear(5, 9));
+}
+
+// A field's __index is script code, and it may release the surface or an object argument
+// while the method reads its tables: the method looks at each again before it draws, and
+// makes the report of an ended object instead of reaching a freed or null one.
+TEST_F(SurfaceApiTest, AnObjectReleasedWhileTheTablesAreReadIsLookedAtAgain) {
+    runLua(R"(
+        -- A table whose every field is 1; the first read releases victim.
+        function releasing(victim)
+            local done = false
+            return setmetatable({}, {__index = function()
+                if not done then done = true; victim:Release() end
+                return 1
+            end})
+        end
+    )");
+    const struct {
+        const char* setup;
+        const char* call;
+        const char* report;
+    } cases[] = {
+        {"local off = ink:CreateOffscreenSurface(4, 4, false)",
+         "off:PaintRect(releasing(off), red)", kSurfaceEnded},
+        {"local off = ink:CreateOffscreenSurface(4, 4, false)",
+         "off:DrawString('a', 0, 0, releasing(off))", kSurfaceEnded},
+        {"local off = ink:CreateOffscreenSurface(4, 4, false)",
+         "off:DrawOutline(rect(0, 0, 2, 2), releasing(off))", kSurfaceEnded},
+        {"local off = ink:CreateOffscreenSurface(4, 4, false)",
+         "off:DrawRoundedFill(releasing(off), red, 1)", kSurfaceEnded},
+        {"local off = ink:CreateOffscreenSurface(4, 4, false)",
+         "off:IsWithinClipBounds(releasing(off))", kSurfaceEnded},
+        {"local s = ink:GetSurface()", "s:PaintRect(rect(0, 0, 4, 4), releasing(s))",
+         kSurfaceEnded},
+        {"local s, p = ink:GetSurface(), PathInterface.newPath(ink) p:AddRect(rect(0, 0, 4, 4))",
+         "s:FillPath(p, releasing(p))", kPathReleased},
+        {"local s, p = ink:GetSurface(), PathInterface.newPath(ink) p:AddRect(rect(0, 0, 4, 4))",
+         "s:StrokePath(p, releasing(p), 1)", kPathReleased},
+        {"local s, picture = ink:GetSurface(), imageOf(ink)",
+         "s:DrawImage(picture, releasing(picture))", kImageEnded},
+        {"local s, picture = ink:GetSurface(), imageOf(ink)",
+         "s:DrawImage2(picture, releasing(picture))", kImageEnded},
+    };
+    for (const auto& c : cases) {
+        runLua(std::string("function case(ink) ") + c.setup + " count = select('#', " + c.call +
+               ") end");
+        zebcore::debug::ClearRecordedAssertReports();
+        draw(mCanvas.inkwell, "case");
+        EXPECT_EQ(luaValue("count"), "0") << c.call;
+        EXPECT_EQ(zebcore::debug::RecordedAssertReports().size(), 1u) << c.call;
+        EXPECT_EQ(reportCount(c.report), 1) << c.call;
+    }
+    EXPECT_TRUE(mCanvas.isClear(1, 1));
+}
+
+// A Lua memory error at any step of GetSurfaceImage loses no image: the proxy is pushed
+// before the surface hands out the image's reference. LeakSanitizer checks what is left.
+TEST_F(SurfaceApiTest, AMemoryErrorInGetSurfaceImageLosesNoImage) {
+    InstallFailingAllocator(L);
+    runLua(R"(
+        function takeImages(ink)
+            local off = ink:CreateOffscreenSurface(2, 2, false)
+            failures, taken = 0, 0
+            for n = 1, 6 do
+                failAllocation(n)
+                local ok, result = pcall(off.GetSurfaceImage, off)
+                failAllocation(0)
+                if ok then
+                    result:Release()
+                    taken = taken + 1
+                else
+                    assert(result == "not enough memory", result)
+                    failures = failures + 1
+                end
+            end
+            off:Release()
+        end
+    )");
+    draw(mCanvas.inkwell, "takeImages");
+    EXPECT_GT(std::stoi(luaValue("failures")), 0);
+    EXPECT_GT(std::stoi(luaValue("taken")), 0);
 }
 
 }  // namespace

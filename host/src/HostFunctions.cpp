@@ -6,6 +6,7 @@
 #include "host/src/HostCanvas.h"
 #include "host/src/HostInputCodes.h"
 #include "zeblua/utility/src/LuaModule.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/ui/EventLoop.h"
 
 namespace zebhost {
@@ -15,7 +16,7 @@ namespace {
 using zebui::ui::EventLoop;
 
 // Builds the answer in a frame of its own, so no C++ object is alive in a frame that
-// raises a Lua error.
+// raises a Lua error; RunNative stops what the string or the queue throws.
 void queueAnswer(lua_Integer code, const char* text, size_t length, lua_Number delayMs) {
     zebui::ui::UserAnswer answer;
     answer.code = static_cast<int>(code);
@@ -39,8 +40,10 @@ int hostAnswer(lua_State* L) {
     size_t length = 0;
     const char* text = luaL_optlstring(L, 2, "", &length);
     const lua_Number delayMs = luaL_optnumber(L, 3, 0);
-    queueAnswer(code, text, length, delayMs);
-    return 0;
+    return zeblua::utility::RunNative(L, "zebhost.answer", [&] {
+        queueAnswer(code, text, length, delayMs);
+        return 0;
+    });
 }
 
 const luaL_Reg functions[] = {

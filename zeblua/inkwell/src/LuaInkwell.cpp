@@ -1,6 +1,8 @@
 // zebInkwell: surfaces and suppliers from an Inkwell proxy, and Inkwells of a script's own.
 #include "zeblua/inkwell/src/LuaInkwell.h"
 
+#include <memory>
+
 #include <lua.hpp>
 
 #include "zebcore/debug/Debug.h"
@@ -10,6 +12,7 @@
 #include "zeblua/inkwell/src/LuaSurfaceInterface.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/inkwell/FontInterface.h"
 #include "zebui/inkwell/Inkwell.h"
@@ -72,13 +75,15 @@ int inkwellCreateOffscreenSurface(lua_State* L) {
     const int width = static_cast<int>(luaL_checkinteger(L, 2));
     const int height = static_cast<int>(luaL_checkinteger(L, 3));
     const bool flag = lua_toboolean(L, 4) != 0;
-    InkwellProxy* surface = nullptr;
-    // The proxy first: its push is the only thing that can raise, and the surface must
-    // not exist yet if it does.
-    newProxyFromSurface(L, proxy->inkwell, nullptr, proxy, &surface, true);
-    surface->surface = DrawingSupplierOf(proxy)->MakeOffscreenSurface(width, height, flag);
-    if (surface->surface) intrusive_ptr_add_ref(surface->surface);
-    return 1;
+    // The proxy first: its push is the only thing that can raise a Lua error, and the
+    // surface must not exist yet if it does. Its record list can throw.
+    return utility::RunNative(L, "CreateOffscreenSurface", [&] {
+        InkwellProxy* surface = nullptr;
+        newProxyFromSurface(L, proxy->inkwell, nullptr, proxy, &surface, true);
+        surface->surface = DrawingSupplierOf(proxy)->MakeOffscreenSurface(width, height, flag);
+        if (surface->surface) intrusive_ptr_add_ref(surface->surface);
+        return 1;
+    });
 }
 
 // -- surface = ink:GetSurface()
@@ -88,7 +93,10 @@ int inkwellGetSurface(lua_State* L) {
     if (!InkwellInScope(proxy)) return 0;
     const bool first = proxy->surfaceProxy == nullptr;
     InkwellProxy* surface = nullptr;
-    newProxyFromSurface(L, proxy->inkwell, proxy->inkwell->GetSurface(), proxy, &surface, false);
+    utility::RunNative(L, "GetSurface", [&] {  // the scope's lists can throw
+        return newProxyFromSurface(L, proxy->inkwell, proxy->inkwell->GetSurface(), proxy, &surface,
+                                   false);
+    });
     surface->inkwell = proxy->inkwell;
     if (first) {
         // surfaceProxy is a bare address: the record lives at least as long as this proxy.
@@ -124,7 +132,8 @@ int inkwellNewInkwell(lua_State* L) {
     KeepWithProxy(L, proxyIndex, kKeptBoundSurface); /* the last push that can raise */
     SupplierInterface* supplier = surface->surface->GetSupplier();
     if (!supplier) supplier = zebui::ui::UI_NodeManager::Get(false)->GetDefaultSupplier();
-    proxy->inkwell = new Inkwell(supplier, surface->surface);
+    proxy->inkwell = utility::RunNative(L, "NewInkwell",
+                                        [&] { return new Inkwell(supplier, surface->surface); });
     proxy->owned = true;
     intrusive_ptr_add_ref(surface->surface);
     surface->inkwell = proxy->inkwell;
@@ -137,12 +146,10 @@ float measureWithoutSurface(const char* text, float size, const char* family) {
     const zebcore::UTF16String units = zebcore::utility::UTF8to16(text);
     const zebcore::UTF16String familyUnits =
         family ? zebcore::utility::UTF8to16(family) : zebui::ui::GetFontName(0);
-    FontInterface* font = zebui::ui::UI_NodeManager::Get(false)->GetDefaultSupplier()->MakeFont(
-        reinterpret_cast<const unsigned short*>(familyUnits.c_str()), nullptr, size);
-    if (!font) return 0.0f;
-    const float width = font->MeasureText(units, -1);
-    delete font;
-    return width;
+    const std::unique_ptr<FontInterface> font(
+        zebui::ui::UI_NodeManager::Get(false)->GetDefaultSupplier()->MakeFont(
+            reinterpret_cast<const unsigned short*>(familyUnits.c_str()), nullptr, size));
+    return font ? font->MeasureText(units, -1) : 0.0f;
 }
 
 // -- width = zebInkwell.MeasureStringWidth(text)
@@ -156,7 +163,10 @@ int inkwellMeasureStringWidth(lua_State* L) {
     const lua_Number size =
         count > 1 ? luaL_checknumber(L, 4) : zebui::controls::UI_ControlView::DefaultTextSize();
     const char* family = count >= 3 ? luaL_checkstring(L, 5) : nullptr;
-    lua_pushnumber(L, measureWithoutSurface(text, static_cast<float>(size), family));
+    const float width = utility::RunNative(L, "MeasureStringWidth", [&] {
+        return measureWithoutSurface(text, static_cast<float>(size), family);
+    });
+    lua_pushnumber(L, width);
     return 1;
 }
 

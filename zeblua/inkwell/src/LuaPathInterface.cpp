@@ -10,6 +10,7 @@
 #include "zeblua/inkwell/src/LuaInkwellTypeUtils.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/inkwell/PathP.h"
 
 namespace zeblua {
@@ -32,7 +33,9 @@ struct PathProxy {
     static constexpr const char* kDisplayName = "zebPathInterface";
 };
 
-// The path of the proxy at 1, or null after the report when the script released it.
+// The path of the proxy at 1, or null after the report when the script released it. The
+// point and rect readers run __index metamethods, script code that may release the path:
+// a method that reads a table asks again once it has read them.
 PathInterface* livePath(lua_State* L) {
     const PathP* holder = *zeblua_checkPathInterface(L, 1);
     ZEB_ASSERT_MSG(holder != nullptr, "Attempting to use a release PathInterface");
@@ -51,7 +54,7 @@ int pathNew(lua_State* L) {
     const InkwellProxy* ink = zeblua_checkInkwell(L, 1);
     if (!InkwellInScope(ink)) return 0;
     PathP** block = utility::PushPointerProxy<PathP>(L, nullptr, kPathMetaTable);
-    *block = new PathP(DrawingSupplierOf(ink));
+    *block = utility::RunNative(L, "newPath", [ink] { return new PathP(DrawingSupplierOf(ink)); });
     return 1;
 }
 
@@ -77,7 +80,8 @@ int pathBezierTo(lua_State* L) {
     GetPointF32FromLua(L, 2, control1);
     GetPointF32FromLua(L, 3, control2);
     GetPointF32FromLua(L, 4, end);
-    path->BezierTo(control1, control2, end);
+    path = livePath(L); /* a field's __index may have released it */
+    if (path) path->BezierTo(control1, control2, end);
     return 0;
 }
 
@@ -87,7 +91,8 @@ int pathAddRect(lua_State* L) {
     if (!path) return 0;
     RectT<float> rect;
     GetRectF32FromLua(L, 2, rect);
-    path->AddRect(rect);
+    path = livePath(L); /* a field's __index may have released it */
+    if (path) path->AddRect(rect);
     return 0;
 }
 
@@ -101,7 +106,8 @@ int pathAddArc(lua_State* L) {
     const int top = lua_gettop(L);
     const float firstAngle = top >= 4 ? static_cast<float>(luaL_checknumber(L, 4)) : 0.0f;
     const float secondAngle = top >= 5 ? static_cast<float>(luaL_checknumber(L, 5)) : 360.0f;
-    path->AddArc(centre, radius, firstAngle, secondAngle);
+    path = livePath(L); /* a field's __index may have released it */
+    if (path) path->AddArc(centre, radius, firstAngle, secondAngle);
     return 0;
 }
 

@@ -11,6 +11,7 @@
 #include "zeblua/inkwell/src/LuaInkwellTypeUtils.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/inkwell/ColorRGBA.h"
 #include "zebui/inkwell/InkwellTypes.h"
 #include "zebui/inkwell/PenInterface.h"
@@ -137,8 +138,10 @@ int penSetDashPattern(lua_State* L) {
     if (!pen) return 0;
     for (int index = 2; index <= lua_gettop(L); ++index)
         luaL_checknumber(L, index);
-    setDashPattern(L, *pen);
-    return 0;
+    return utility::RunNative(L, "SetDashPattern", [&] {
+        setDashPattern(L, *pen);
+        return 0;
+    });
 }
 
 const luaL_Reg kPenFunctions[] = {

@@ -16,6 +16,7 @@
 #include "zeblua/inkwell/src/LuaShaderInterface.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/inkwell/BrushP.h"
 #include "zebui/inkwell/ColorRGBA.h"
@@ -57,6 +58,9 @@ using zebui::inkwell::ShaderInterface;
 using zebui::inkwell::SurfaceInterface;
 
 // Every method starts here: the record at 1, or null after the report once it has ended.
+// The table readers run __index metamethods, which are script code and may release the
+// surface or an object argument on the way; so a method that reads a table looks at them
+// again once every argument is read, with the same reports, before it draws.
 InkwellProxy* liveSurface(lua_State* L) {
     InkwellProxy* proxy = zeblua_checkSurface(L, 1);
     return SurfaceInScope(proxy) ? proxy : nullptr;
@@ -111,7 +115,8 @@ Inkwell drawingInkwell(const InkwellProxy& proxy) {
 }
 
 // The C++ halves of the path methods: every argument has been read, so their holders are
-// free to live in the frame. Each does nothing when a holder came out empty (reported).
+// free to live in the frame; those that make holders run under RunNative, which stops
+// whatever they throw. Each does nothing when a holder came out empty (reported).
 void strokeWithPen(const InkwellProxy& proxy, const PathP& path, const PenInterface& pen) {
     const PathInterface* pathObject = path.operator->();
     if (pathObject) proxy.surface->StrokePath(pen, *pathObject);
@@ -142,7 +147,8 @@ void clipToPath(const InkwellProxy& proxy, const PathP& path, bool flag) {
     if (pathObject) proxy.surface->Clip(*pathObject, flag);
 }
 
-// Brush and font live for this one call. The surface takes truncation before width.
+// Brush and font live for this one call, under RunNative as the other helpers that make
+// holders or text. The surface takes truncation before width.
 void drawString(const InkwellProxy& proxy, const char* text, const PointT<float>& point,
                 const ColorRGBA& colour, lua_Integer alignment, float fontSize, float width,
                 lua_Integer truncation) {
@@ -236,9 +242,13 @@ int surfaceDrawString(lua_State* L) {
     const lua_Number fontSize = optionalNumber(L, 7, defaultTextSize());
     const lua_Number width = optionalNumber(L, 8, 0);
     const lua_Integer truncation = optionalInteger(L, 9, zebui::inkwell::kTextTruncation_None);
-    drawString(*proxy, text, PointT<float>(static_cast<float>(x), static_cast<float>(y)), colour,
-               alignment, static_cast<float>(fontSize), static_cast<float>(width), truncation);
-    return 0;
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    return utility::RunNative(L, "DrawString", [&] {
+        drawString(*proxy, text, PointT<float>(static_cast<float>(x), static_cast<float>(y)),
+                   colour, alignment, static_cast<float>(fontSize), static_cast<float>(width),
+                   truncation);
+        return 0;
+    });
 }
 
 // -- width = surface:MeasureStringWidth(text [, fontSize])
@@ -247,7 +257,10 @@ int surfaceMeasureStringWidth(lua_State* L) {
     if (!proxy) return 0;
     const char* text = luaL_checkstring(L, 2);
     const lua_Number fontSize = optionalNumber(L, 3, defaultTextSize());
-    lua_pushnumber(L, measureString(*proxy, text, static_cast<float>(fontSize)));
+    const float width = utility::RunNative(L, "MeasureStringWidth", [&] {
+        return measureString(*proxy, text, static_cast<float>(fontSize));
+    });
+    lua_pushnumber(L, width);
     return 1;
 }
 
@@ -264,6 +277,7 @@ int surfacePaintRect(lua_State* L) {
     RectT<float> rect;
     ColorRGBA colour;
     readRectAndColour(L, rect, colour);
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
     proxy->surface->PaintRect(colour, rect);
     return 0;
 }
@@ -278,9 +292,12 @@ int surfaceDrawOutline(lua_State* L) {
     readRectAndColour(L, rect, colour);
     const lua_Number cornerRadius = optionalNumber(L, 4, 0);
     const lua_Number lineWidth = optionalNumber(L, 5, 1.0);
-    drawOutline(*proxy, rect, colour, static_cast<float>(cornerRadius),
-                static_cast<float>(lineWidth));
-    return 0;
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    return utility::RunNative(L, "DrawOutline", [&] {
+        drawOutline(*proxy, rect, colour, static_cast<float>(cornerRadius),
+                    static_cast<float>(lineWidth));
+        return 0;
+    });
 }
 
 // -- surface:DrawRoundedFill(rect, colour, cornerRadius)
@@ -291,8 +308,11 @@ int surfaceDrawRoundedFill(lua_State* L) {
     ColorRGBA colour;
     readRectAndColour(L, rect, colour);
     const lua_Number cornerRadius = luaL_checknumber(L, 4);
-    drawRoundedFill(*proxy, rect, colour, static_cast<float>(cornerRadius));
-    return 0;
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    return utility::RunNative(L, "DrawRoundedFill", [&] {
+        drawRoundedFill(*proxy, rect, colour, static_cast<float>(cornerRadius));
+        return 0;
+    });
 }
 
 // -- surface:StrokePath(path, pen)  or  surface:StrokePath(path, colour, width)
@@ -310,8 +330,13 @@ int surfaceStrokePath(lua_State* L) {
     ColorRGBA colour;
     GetColorRGBAFromLua(L, 3, colour);
     const float width = static_cast<float>(luaL_checknumber(L, 4));
-    strokeWithColour(*proxy, *path, colour, width);
-    return 0;
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    path = livePath(L, 2);
+    if (!path) return 0;
+    return utility::RunNative(L, "StrokePath", [&] {
+        strokeWithColour(*proxy, *path, colour, width);
+        return 0;
+    });
 }
 
 // -- surface:FillPath(path, colour [, flag = 1])
@@ -323,8 +348,13 @@ int surfaceFillPath(lua_State* L) {
     ColorRGBA colour;
     GetColorRGBAFromLua(L, 3, colour);
     const bool flag = fillFlag(L, 4);
-    fillPath(*proxy, *path, colour, flag);
-    return 0;
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    path = livePath(L, 2);
+    if (!path) return 0;
+    return utility::RunNative(L, "FillPath", [&] {
+        fillPath(*proxy, *path, colour, flag);
+        return 0;
+    });
 }
 
 // -- surface:ShadePath(path, shader [, flag = 1])
@@ -390,6 +420,7 @@ int surfaceIsWithinClipBounds(lua_State* L) {
     if (!proxy) return 0;
     RectT<float> rect;
     GetRectF32FromLua(L, 2, rect);
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
     const RectT<int> outward =
         zebcore::geom::ConvertRect<RectT<int>>(rect, zebcore::geom::kRectRound_OUT);
     lua_pushinteger(L, proxy->surface->IsWithinClipBounds(outward) ? 1 : 0);
@@ -405,6 +436,9 @@ int surfaceDrawImage(lua_State* L) {
     PointT<float> point;
     GetPointF32FromLua(L, 3, point);
     const lua_Number opacity = optionalNumber(L, 4, 1.0);
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    image = liveImage(L, 2);
+    if (!image) return 0;
     proxy->surface->DrawImage(*image, point, static_cast<float>(opacity));
     return 0;
 }
@@ -423,6 +457,9 @@ int surfaceDrawImage2(lua_State* L) {
     const bool hasSource = lua_gettop(L) >= 4;
     if (hasSource) GetRectF32FromLua(L, 4, srcRect);
     const lua_Number opacity = optionalNumber(L, 5, 1.0);
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
+    image = liveImage(L, 2);
+    if (!image) return 0;
     proxy->surface->DrawImage2(DrawingSupplierOf(proxy), *image, destRect,
                                hasSource ? &srcRect : nullptr, static_cast<float>(opacity));
     return 0;
@@ -450,11 +487,16 @@ int surfaceGetAntiAliasPolicy(lua_State* L) {
 }
 
 // -- image = surface:GetSurfaceImage()
-// A copy of the present pixels; the image proxy holds its own reference.
+// A copy of the present pixels; the image proxy holds its own reference. The proxy comes
+// first, empty: a Lua memory error in its push must not find the image's reference in a
+// counted pointer of this frame, whose release the longjmp would skip.
 int surfaceGetSurfaceImage(lua_State* L) {
     InkwellProxy* proxy = liveSurface(L);
     if (!proxy) return 0;
-    return newProxyFromImage(L, proxy->surface->GetSurfaceImage());
+    newProxyFromImage(L, nullptr);
+    *static_cast<ImageInterface**>(lua_touserdata(L, -1)) =
+        proxy->surface->GetSurfaceImage().detach();
+    return 1;
 }
 
 // -- surface:Flush()

@@ -1,9 +1,7 @@
 // zebString: byte-position string functions, regular expressions and Unicode case mapping.
 #include "zeblua/string/src/ZebString.h"
 
-#include <cstdio>
 #include <cstring>
-#include <exception>
 #include <locale>
 #include <string>
 #include <string_view>
@@ -15,6 +13,7 @@
 #include "zebcore/utility/Strings.h"
 #include "zeblua/string/src/StringRegex.h"
 #include "zeblua/utility/src/LuaModule.h"
+#include "zeblua/utility/src/RunNative.h"
 
 namespace zeblua {
 namespace string {
@@ -32,20 +31,6 @@ constexpr const char* kBadCountMessage = "SubstringB: Bad character count, must 
 int raisePlainError(lua_State* L, const char* message) {
     lua_pushstring(L, message);
     return lua_error(L);
-}
-
-// Runs the C++ part of a binding after its arguments are checked. work holds the native
-// strings and pushes its results; an exception (a bad pattern, say) is caught here and
-// raised as a Lua error only once the try block has unwound, because Lua's longjmp skips
-// destructors and must never meet a C++ exception.
-template <typename Work> int runNative(lua_State* L, const char* functionName, Work work) {
-    char message[512];
-    try {
-        return work();
-    } catch (const std::exception& e) {
-        std::snprintf(message, sizeof message, "%s: %s", functionName, e.what());
-    }
-    return luaL_error(L, "%s", message);
 }
 
 void pushUTF16AsUTF8(lua_State* L, const UTF16String& text) {
@@ -95,7 +80,7 @@ int strLocalize(lua_State* L) {
     size_t length = 0;
     const char* key = luaL_checklstring(L, 1, &length);
     if (length == 0) return 0;
-    return runNative(L, "Localize", [&] {
+    return utility::RunNative(L, "Localize", [&] {
         pushUTF16AsUTF8(L, zebcore::config::Localizer::Get()->GetLocalizedString(key));
         return 1;
     });
@@ -114,7 +99,7 @@ int strReplaceInString(lua_State* L) {
     int last = 2;
     while (last < top && !lua_isnil(L, last + 1))
         luaL_checklstring(L, ++last, nullptr);  // converts a number in place, so tostring reads it
-    return runNative(L, "ReplaceInString", [&] {
+    return utility::RunNative(L, "ReplaceInString", [&] {
         std::vector<UTF16String> replacements;
         for (int index = 2; index <= last; ++index)
             replacements.push_back(zebcore::utility::UTF8to16(lua_tostring(L, index)));
@@ -152,7 +137,7 @@ int strSubstringB(lua_State* L) {
 // -- trimmed = zebString.Trim(s)
 int strTrim(lua_State* L) {
     const char* s = luaL_checkstring(L, 1);
-    return runNative(L, "Trim", [&] {
+    return utility::RunNative(L, "Trim", [&] {
         const char* last = s + std::strlen(s);
         RegexMatch leading{};
         SearchRegex("\\A[\\s]*", s, last, leading);
@@ -171,7 +156,7 @@ int strMatchB(lua_State* L) {
     const char* s = luaL_checklstring(L, 1, &length);
     const char* pattern = luaL_checkstring(L, 2);
     const int pos = GetOptionalOneBasedPos(L, 3, static_cast<int>(length), "MatchB", 1);
-    return runNative(L, "MatchB", [&] {
+    return utility::RunNative(L, "MatchB", [&] {
         const char* first = s + pos - 1;
         RegexMatch match{};
         if (!SearchRegex(pattern, first, first + std::strlen(first), match)) {
@@ -197,7 +182,7 @@ int strReplaceB(lua_State* L) {
         luaL_checktype(L, 5, LUA_TBOOLEAN);
         firstOnly = !lua_toboolean(L, 5);
     }
-    return runNative(L, "ReplaceB", [&] {
+    return utility::RunNative(L, "ReplaceB", [&] {
         const std::string out =
             ReplaceRegex(pattern, s, s + pos - 1, s + length, format, firstOnly);
         lua_pushstring(L, out.c_str());
@@ -216,7 +201,7 @@ int strCompare(lua_State* L) {
 
 int mapCase(lua_State* L, const char* functionName, void (*map)(UTF16String&)) {
     const char* s = luaL_checkstring(L, 1);
-    return runNative(L, functionName, [&] {
+    return utility::RunNative(L, functionName, [&] {
         UTF16String text = zebcore::utility::UTF8to16(s);
         map(text);
         pushUTF16AsUTF8(L, text);
@@ -238,7 +223,7 @@ int strToLower(lua_State* L) {
 // order, without byte order mark or terminator.
 int strUTF8to16(lua_State* L) {
     const char* s = luaL_checkstring(L, 1);
-    return runNative(L, "UTF8to16", [&] {
+    return utility::RunNative(L, "UTF8to16", [&] {
         const UTF16String units = zebcore::utility::UTF8to16(s);
         lua_pushlstring(L, reinterpret_cast<const char*>(units.data()),
                         units.size() * sizeof(char16_t));
@@ -251,7 +236,7 @@ int strUTF8to16(lua_State* L) {
 int strUTF16to8(lua_State* L) {
     size_t length = 0;
     const char* bytes = luaL_checklstring(L, 1, &length);
-    return runNative(L, "UTF16to8", [&] {
+    return utility::RunNative(L, "UTF16to8", [&] {
         // A copy, since the bytes of a Lua string need not be aligned for char16_t.
         UTF16String units(length / sizeof(char16_t), u'\0');
         std::memcpy(&units[0], bytes, units.size() * sizeof(char16_t));

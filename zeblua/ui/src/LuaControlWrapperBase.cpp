@@ -38,13 +38,17 @@ bool LuaControlWrapperBase::UI_DoTimerNotify(int id) {
 }
 
 bool LuaControlWrapperBase::InstallTimer(float interval, int reference, int& idOut) {
-    const boost::intrusive_ptr<zebui::ui::UI_Node> node = mNode;
-    if (!node) return false;
-    const int id = zebui::ui::UI_NodeManager::Get(false)->GetUniqueTimerID();
-    node->UI_InstallTimer(interval, id);
-    idOut = id;
-    node->UI_InstallTimerNotifyFunction(mTimerFunction);
-    mTimers[id] = reference;
+    {
+        const boost::intrusive_ptr<zebui::ui::UI_Node> node = mNode;
+        if (!node) return false;
+        const int id = zebui::ui::UI_NodeManager::Get(false)->GetUniqueTimerID();
+        node->UI_InstallTimer(interval, id);
+        idOut = id;
+        node->UI_InstallTimerNotifyFunction(mTimerFunction);
+        mTimers[id] = reference;
+    }
+    // Outside the block: anchoring can raise Lua's memory error, whose longjmp would skip
+    // releasing the counted node.
     anchorState();
     return true;
 }

@@ -37,7 +37,8 @@ public:
     // Lua function may collect this very wrapper: nothing of it is touched after the call.
     virtual bool UI_DoTimerNotify(int id);
     // Starts a timer of interval seconds whose ticks call the function at reference.
-    // False without a node; then the caller still owns the reference.
+    // False without a node; then the caller still owns the reference. Anchoring the state
+    // can raise Lua's memory error, so the caller holds no C++ object across the call.
     virtual bool InstallTimer(float interval, int reference, int& idOut);
     // Stops the timer and releases its reference. Nothing without a node.
     virtual void RemoveTimer(int id);

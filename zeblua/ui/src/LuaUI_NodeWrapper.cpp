@@ -4,6 +4,7 @@
 #include <lua.hpp>
 
 #include "zebcore/utility/Strings.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/ui/UI_Node.h"
 
 namespace zeblua {
@@ -40,8 +41,10 @@ int nodeUI_SetNodeID(lua_State* L) {
     if (!wrapper) return 0;
     size_t length = 0;
     const char* id = luaL_checklstring(L, 2, &length);
-    if (wrapper->GetNode()) wrapper->GetNode()->UI_SetNodeID(zebcore::UTF8String(id, length));
-    return 0;
+    return utility::RunNative(L, "UI_SetNodeID", [&] {
+        if (wrapper->GetNode()) wrapper->GetNode()->UI_SetNodeID(zebcore::UTF8String(id, length));
+        return 0;
+    });
 }
 
 // id = node:UI_InstallTimer(seconds, fn): fn() at each tick until removed; nothing if the
@@ -54,7 +57,9 @@ int nodeUI_InstallTimer(lua_State* L) {
     lua_pushvalue(L, 3);
     const int reference = luaL_ref(L, LUA_REGISTRYINDEX);
     int id = 0;
-    if (!wrapper->InstallTimer(interval, reference, id)) {
+    const bool installed = utility::RunNative(
+        L, "UI_InstallTimer", [&] { return wrapper->InstallTimer(interval, reference, id); });
+    if (!installed) {
         luaL_unref(L, LUA_REGISTRYINDEX, reference); /* no timer holds it */
         return 0;
     }

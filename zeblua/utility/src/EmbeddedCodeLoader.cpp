@@ -9,6 +9,7 @@
 
 #include "vex/app/App.h"
 #include "xukernel/XuLua.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/utility/ResourceManager.h"
 
 namespace zeblua {
@@ -31,13 +32,17 @@ bool loadModuleBytes(const char* moduleName, std::vector<unsigned char>& bytes) 
 
 int DoLoadEmbeddedCode(lua_State* L) {
     const char* moduleName = luaL_checklstring(L, 1, nullptr);
-    std::vector<unsigned char> bytes;
-    if (!loadModuleBytes(moduleName, bytes)) return 0;
-    lua_pushvalue(L, LUA_GLOBALSINDEX);
-    // A load error is no Lua error here: the message stands where the chunk would.
-    XuLua_loadChunkFromBuffer(L, reinterpret_cast<const char*>(bytes.data()), bytes.size(),
-                              moduleName);
-    return 1;
+    // The bytes live only inside RunNative, which also stops what the look-up throws.
+    return utility::RunNative(L, "EmbeddedCodeLoader", [&] {
+        std::vector<unsigned char> bytes;
+        if (!loadModuleBytes(moduleName, bytes)) return 0;
+        lua_pushvalue(L, LUA_GLOBALSINDEX);
+        // A load error is no Lua error here: the message stands where the chunk would.
+        // Nothing here raises: the load runs protected and the pushes allocate nothing.
+        XuLua_loadChunkFromBuffer(L, reinterpret_cast<const char*>(bytes.data()), bytes.size(),
+                                  moduleName);
+        return 1;
+    });
 }
 
 }  // namespace zeblua
