@@ -35,7 +35,6 @@ int dispatchToChild(lua_State* L) {
 
 void DrawingTest::SetUp() {
     LuaTest::SetUp();
-    zebcore::debug::SetAssertEchoEnabled(false);
     lua_register(L, "fullCollect", fullCollect);
     runLua(R"(
         require "zeblua.inkwell.zebInkwell"
@@ -51,11 +50,6 @@ void DrawingTest::SetUp() {
         blue = zeblua_CreateNewRGBA(0, 0, 1, 1)
     )");
     zebcore::debug::ClearRecordedAssertReports();
-}
-
-void DrawingTest::TearDown() {
-    LuaTest::TearDown();
-    zebcore::debug::SetAssertEchoEnabled(true);
 }
 
 void DrawingTest::draw(Inkwell& inkwell, const std::string& name) {

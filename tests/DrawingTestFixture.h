@@ -19,6 +19,14 @@ struct Canvas {
           inkwell(&supplier, surface.get()) {}
 
     bool isClear(int x, int y) { return surface->ReadPixel(x, y)[3] == 0; }
+    // How many pixels hold any ink.
+    int inkedPixelCount() {
+        int inked = 0;
+        for (int y = 0; y < surface->Height(); ++y)
+            for (int x = 0; x < surface->Width(); ++x)
+                if (!isClear(x, y)) ++inked;
+        return inked;
+    }
 
     boost::intrusive_ptr<zebui::inkwell::CairoSurface> surface;
     zebui::inkwell::Inkwell inkwell;
@@ -32,7 +40,6 @@ extern const zebui::inkwell::PixelRGBA kBluePixel;
 class DrawingTest : public LuaTest {
 protected:
     void SetUp() override;
-    void TearDown() override;
 
     // Calls the global function name with a scoped Inkwell proxy for inkwell, as a draw
     // hook does; a Lua error in it fails the test.

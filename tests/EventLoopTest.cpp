@@ -42,12 +42,10 @@ class EventLoopTest : public ::testing::Test {
 protected:
     void SetUp() override {
         debug::ClearRecordedAssertReports();
-        debug::SetAssertEchoEnabled(false);
         loop()->ClearUserAnswers();
         TickingNode::sStart = loop()->Now();
     }
     void TearDown() override {
-        debug::SetAssertEchoEnabled(true);
         loop()->SetModalWaitLimit(EventLoop::kDefaultModalWaitLimitMs);
         EXPECT_EQ(loop()->GetTimerCount(), 0u) << "a test left a timer behind";
     }

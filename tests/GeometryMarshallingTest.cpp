@@ -74,7 +74,6 @@ class GeometryMarshallingTest : public LuaTest {
 protected:
     void SetUp() override {
         LuaTest::SetUp();
-        zebcore::debug::SetAssertEchoEnabled(false);
         resetTargets();
         lua_register(L, "readPoint", readPoint);
         lua_register(L, "readRect", readRect);
@@ -95,10 +94,6 @@ protected:
               end
             end
         )");
-    }
-    void TearDown() override {
-        zebcore::debug::SetAssertEchoEnabled(true);
-        LuaTest::TearDown();
     }
 
     // Every target to -7s, and no reports.

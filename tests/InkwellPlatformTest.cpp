@@ -39,11 +39,7 @@ const PixelRGBA kClear{0, 0, 0, 0};
 
 class InkwellPlatformTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        zebcore::debug::ClearRecordedAssertReports();
-        zebcore::debug::SetAssertEchoEnabled(false);
-    }
-    void TearDown() override { zebcore::debug::SetAssertEchoEnabled(true); }
+    void SetUp() override { zebcore::debug::ClearRecordedAssertReports(); }
 
     boost::intrusive_ptr<CairoSurface> surface(int width, int height, bool opaque = false) {
         return boost::intrusive_ptr<CairoSurface>(

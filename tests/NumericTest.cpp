@@ -15,7 +15,6 @@ class NumericTest : public LuaTest {
 protected:
     void SetUp() override {
         LuaTest::SetUp();
-        zebcore::debug::SetAssertEchoEnabled(false);
         // Rounded to six places, -0 shown as 0, each list in braces.
         runLua(R"(
             function listText(t)
@@ -43,10 +42,6 @@ protected:
               end
             end
         )");
-    }
-    void TearDown() override {
-        zebcore::debug::SetAssertEchoEnabled(true);
-        LuaTest::TearDown();
     }
 
     static std::string lastAssertExpression() {

@@ -81,11 +81,7 @@ KeyboardEvent keyEvent() {
 
 class ToolkitCoreTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        debug::ClearRecordedAssertReports();
-        debug::SetAssertEchoEnabled(false);
-    }
-    void TearDown() override { debug::SetAssertEchoEnabled(true); }
+    void SetUp() override { debug::ClearRecordedAssertReports(); }
 
     static boost::intrusive_ptr<UI_SubView> newView(const std::string& id,
                                                     const RectT<float>& rect = RectT<float>()) {
