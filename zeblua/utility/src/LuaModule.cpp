@@ -3,11 +3,14 @@
 
 #include <lua.hpp>
 
+#include "zeblua/utility/src/MainThread.h"
+
 namespace zeblua {
 namespace utility {
 
 void RegisterClassModule(lua_State* L, const char* metatableName, const luaL_Reg* methods,
                          const char* libraryName, const luaL_Reg* functions) {
+    RecordMainThread(L);
     luaL_newmetatable(L, metatableName); /* registry[metatableName] = mt */
     lua_pushvalue(L, -1);
     lua_setfield(L, -2, "__index"); /* mt.__index = mt */
@@ -16,6 +19,7 @@ void RegisterClassModule(lua_State* L, const char* metatableName, const luaL_Reg
 }
 
 void RegisterFunctionModule(lua_State* L, const char* libraryName, const luaL_Reg* functions) {
+    RecordMainThread(L);
     luaL_register(L, libraryName, functions);
 }
 

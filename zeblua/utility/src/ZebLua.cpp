@@ -5,6 +5,7 @@
 
 #include "zeblua/numeric/src/Numeric.h"
 #include "zeblua/string/src/ZebString.h"
+#include "zeblua/utility/src/MainThread.h"
 
 namespace zeblua {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 const luaL_Reg kRootFunctions[] = {{nullptr, nullptr}};
 
 void registerRoot(lua_State* L) {
+    utility::RecordMainThread(L);
     luaL_register(L, "zeblua", kRootFunctions); /* global zeblua, no functions of its own */
     numeric::OpenLuaNumeric(L);                 /* zeblua.numeric */
     string::luaopen_zebluaStrings(L);           /* global zebString, on top */
