@@ -224,3 +224,51 @@ TEST_F(ZebStringTest, ABadPatternIsALuaErrorThatLeavesTheStateUsable) {
     EXPECT_EQ(results("pcall(S.MatchB, 'abc', '(')").substr(0, 6), "false,");
     EXPECT_EQ(results("S.MatchB('abc', 'c')"), "3,4");
 }
+
+// Numbers beyond any string (2^63, -2^63, 1e19, infinities, NaN) are clamped before they
+// become integers: an unclamped conversion is undefined, and 1e19 used to come back as
+// -2^63 and count from the wrong end.
+TEST_F(ZebStringTest, PositionsAndCountsBeyondAnyStringAnswerAsTheStringsEndsDo) {
+    runLua("big, inf, nan = 2^63, 1/0, 0/0");
+    expectResults({{"S.SubstringB('hello', big)", "o"},
+                   {"S.SubstringB('hello', 1e19)", "o"},
+                   {"S.SubstringB('hello', inf)", "o"},
+                   {"S.SubstringB('hello', -big)", "hello"},
+                   {"S.SubstringB('hello', -inf)", "hello"},
+                   {"S.SubstringB('hello', 2, big)", "ello"},
+                   {"S.SubstringB('hello', 2, 1e19)", "ello"},
+                   {"S.SubstringB('hello', 2, inf)", "ello"},
+                   {"S.SubstringB('hello', 2.9, 2.9)", "el"},  // truncated toward zero
+                   {"S.SubstringB('hello', -big, 2)", "he"}});
+    for (const char* call : {"S.SubstringB('hello', nan)", "S.SubstringB('hello', 1, nan)",
+                             "S.SubstringB('hello', 1, -big)", "S.SubstringB('hello', 1, -inf)",
+                             "S.SubstringB('hello', 0.5)"})
+        EXPECT_EQ(luaError(call), "SubstringB: Bad character count, must be >= 0") << call;
+    const std::vector<std::pair<std::string, std::string>> failures = {
+        {"S.GetCharB('abc', big)", "GetCharB: Invalid stack position"},
+        {"S.GetCharB('abc', -1e19)", "GetCharB: Invalid stack position"},
+        {"S.GetCharB('abc', nan)", "GetCharB: Invalid stack position"},
+        {"S.IsSpaceB('abc', -inf)", "IsSpaceB: Invalid stack position"},
+        {"S.IsAlphaB('abc', 1e19)", "IsAlphaB: Invalid stack position"},
+        {"S.MatchB('abc', 'b', nan)", "MatchB: Invalid stack position"},
+        {"S.ReplaceB('abc', 'a', 'b', -big)", "ReplaceB: Invalid stack position"}};
+    for (const auto& [call, message] : failures)
+        EXPECT_EQ(luaError(call), message) << call;
+    EXPECT_EQ(results("S.GetCharB('abc', -3.5)"), "a");
+}
+
+// The complexity bound holds for the whole of a ReplaceB call, as for one MatchB search:
+// a pattern that backtracks over the rest of the text at every match raises Boost's
+// complexity error in seconds, where it used to run for minutes. A plain replacement of
+// every byte of a long text stays well inside the bound.
+TEST_F(ZebStringTest, ReplaceBBoundsTheWholeCallAsMatchBBoundsOneSearch) {
+    runLua("long = string.rep('a', 38000)");
+    EXPECT_EQ(results("S.MatchB(long, 'a*?b|a')"), "1,2");
+    EXPECT_THAT(luaError("S.ReplaceB(long, 'a*?b|a', 'x')"),
+                HasSubstr("ReplaceB: The complexity of matching the regular expression exceeded"));
+    EXPECT_EQ(luaValue("S.ReplaceB(string.rep('ab', 100000), '.', 'x') == string.rep('x', 2e5)"),
+              "true");
+    EXPECT_EQ(
+        luaValue("S.ReplaceB(long, 'a*?b|a', 'x', 37990) == long:sub(1, 37989) .. 'xxxxxxxxxxx'"),
+        "true");
+}

@@ -72,9 +72,13 @@ int main(int argc, char** argv) {
         if (option == "--help" || option == "-h") {
             std::fputs(kUsage, stdout);
             return 0;
-        } else if ((option == "--resources" || option == "--lang") && i + 1 < argc) {
+        } else if ((option == "--resources" || option == "--lang" || option == "--run-for") &&
+                   i + 1 == argc) {
+            std::fprintf(stderr, "zebhost: missing value for %s\n\n%s", argv[i], kUsage);
+            return 2;
+        } else if (option == "--resources" || option == "--lang") {
             (option == "--lang" ? options.language : options.resourcesDir) = argv[++i];
-        } else if (option == "--run-for" && i + 1 < argc) {
+        } else if (option == "--run-for") {
             if (!zebhost::ParseRunFor(argv[++i], runForMs)) {
                 std::fprintf(stderr, "zebhost: bad --run-for value %s\n\n%s", argv[i], kUsage);
                 return 2;

@@ -1,8 +1,9 @@
 // Regular expression searches and replacements over Lua string bytes.
 #include "zeblua/string/src/StringRegex.h"
 
+#include <algorithm>
 #include <iterator>
-#include <sstream>
+#include <limits>
 
 #include <boost/regex.hpp>
 
@@ -11,13 +12,105 @@ namespace string {
 namespace {
 
 // One element per byte, so "." takes one byte of a multi-byte UTF-8 character.
-using ByteRegex =
-    boost::basic_regex<char, boost::regex_traits<char, boost::cpp_regex_traits<char>>>;
+using ByteTraits = boost::regex_traits<char, boost::cpp_regex_traits<char>>;
+using ByteRegex = boost::basic_regex<char, ByteTraits>;
 
 // Perl syntax, case sensitive; scripts can pass no other syntax flag.
 ByteRegex compile(const char* pattern) {
     return ByteRegex(pattern, boost::regex_constants::normal);
 }
+
+// Byte reads left to the whole of one ReplaceB call.
+class ReadBudget {
+public:
+    // As Boost bounds one search: the greater of N * S^2 and N^2 (the latter capped), with S
+    // the pattern's length; and 16 reads a byte beyond that, which no plain pattern needs.
+    ReadBudget(std::ptrdiff_t bytes, std::ptrdiff_t patternLength) {
+        constexpr double kBase = 100000.0;
+        const double n = static_cast<double>(std::max<std::ptrdiff_t>(bytes, 1));
+        const double s = static_cast<double>(std::max<std::ptrdiff_t>(patternLength, 1));
+        const double bound =
+            std::max(n * s * s, std::min(n * n, double(BOOST_REGEX_MAX_STATE_COUNT)));
+        const double reads = std::min(bound + 16.0 * n + kBase,
+                                      double(std::numeric_limits<std::ptrdiff_t>::max() / 2));
+        mLeft = static_cast<std::ptrdiff_t>(reads);
+    }
+
+    void spend() {
+        if (--mLeft < 0) throw boost::regex_error(boost::regex_constants::error_complexity);
+    }
+
+private:
+    std::ptrdiff_t mLeft;
+};
+
+// A byte pointer that spends one read of its budget at each dereference, so the matcher's
+// backtracking is counted across every match of a replacement.
+class CountedBytes {
+public:
+    using iterator_category = std::random_access_iterator_tag;
+    using value_type = char;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const char*;
+    using reference = const char&;
+
+    CountedBytes() = default;
+    CountedBytes(const char* byte, ReadBudget* budget) : mByte(byte), mBudget(budget) {}
+
+    reference operator*() const {
+        mBudget->spend();
+        return *mByte;
+    }
+    reference operator[](difference_type n) const { return *(*this + n); }
+    CountedBytes& operator++() {
+        ++mByte;
+        return *this;
+    }
+    CountedBytes operator++(int) {
+        CountedBytes before = *this;
+        ++mByte;
+        return before;
+    }
+    CountedBytes& operator--() {
+        --mByte;
+        return *this;
+    }
+    CountedBytes operator--(int) {
+        CountedBytes before = *this;
+        --mByte;
+        return before;
+    }
+    CountedBytes& operator+=(difference_type n) {
+        mByte += n;
+        return *this;
+    }
+    CountedBytes& operator-=(difference_type n) {
+        mByte -= n;
+        return *this;
+    }
+    friend CountedBytes operator+(CountedBytes at, difference_type n) { return at += n; }
+    friend CountedBytes operator+(difference_type n, CountedBytes at) { return at += n; }
+    friend CountedBytes operator-(CountedBytes at, difference_type n) { return at -= n; }
+    friend difference_type operator-(const CountedBytes& a, const CountedBytes& b) {
+        return a.mByte - b.mByte;
+    }
+    friend bool operator==(const CountedBytes& a, const CountedBytes& b) {
+        return a.mByte == b.mByte;
+    }
+    friend bool operator!=(const CountedBytes& a, const CountedBytes& b) {
+        return a.mByte != b.mByte;
+    }
+    friend bool operator<(const CountedBytes& a, const CountedBytes& b) {
+        return a.mByte < b.mByte;
+    }
+    friend bool operator>(const CountedBytes& a, const CountedBytes& b) { return b < a; }
+    friend bool operator<=(const CountedBytes& a, const CountedBytes& b) { return !(b < a); }
+    friend bool operator>=(const CountedBytes& a, const CountedBytes& b) { return !(a < b); }
+
+private:
+    const char* mByte = nullptr;
+    ReadBudget* mBudget = nullptr;
+};
 
 }  // namespace
 
@@ -32,15 +125,16 @@ bool SearchRegex(const char* pattern, const char* first, const char* last, Regex
     return true;
 }
 
-std::string ReplaceRegex(const char* pattern, const char* text, const char* first, const char* last,
-                         const char* format, bool firstOnly) {
+void ReplaceRegex(const char* pattern, const char* text, const char* first, const char* last,
+                  const char* format, bool firstOnly, std::string& out) {
     const ByteRegex regex = compile(pattern);
-    std::ostringstream out;
-    out.write(text, first - text);
+    ReadBudget budget(last - first,
+                      static_cast<std::ptrdiff_t>(std::char_traits<char>::length(pattern)));
+    out.assign(text, first);
     const auto flags = firstOnly ? boost::regex_constants::format_first_only
                                  : boost::regex_constants::format_default;
-    boost::regex_replace(std::ostream_iterator<char>(out), first, last, regex, format, flags);
-    return out.str();
+    boost::regex_replace(std::back_inserter(out), CountedBytes(first, &budget),
+                         CountedBytes(last, &budget), regex, format, flags);
 }
 
 }  // namespace string

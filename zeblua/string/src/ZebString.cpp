@@ -1,6 +1,9 @@
 // zebString: byte-position string functions, regular expressions and Unicode case mapping.
 #include "zeblua/string/src/ZebString.h"
 
+#include <algorithm>
+#include <climits>
+#include <cmath>
 #include <cstring>
 #include <locale>
 #include <string>
@@ -13,6 +16,7 @@
 #include "zebcore/utility/Strings.h"
 #include "zeblua/string/src/StringRegex.h"
 #include "zeblua/utility/src/LuaModule.h"
+#include "zeblua/utility/src/LuaResultString.h"
 #include "zeblua/utility/src/RunNative.h"
 
 namespace zeblua {
@@ -23,7 +27,6 @@ const char* const kZebLuaStringLibName = "zebString";
 namespace {
 
 using zebcore::UTF16String;
-using zebcore::UTF8String;
 
 constexpr const char* kBadCountMessage = "SubstringB: Bad character count, must be >= 0";
 
@@ -33,9 +36,33 @@ int raisePlainError(lua_State* L, const char* message) {
     return lua_error(L);
 }
 
-void pushUTF16AsUTF8(lua_State* L, const UTF16String& text) {
-    const UTF8String utf8 = zebcore::utility::UTF16to8(text);
-    lua_pushstring(L, utf8.c_str());
+// A script's number as an integer in [low, high], NaN as ifNaN. Clamped while still a
+// double: converting one outside lua_Integer's range (2^63, -2^63, inf) is undefined.
+lua_Integer clampToInteger(lua_Number value, lua_Integer low, lua_Integer high, lua_Integer ifNaN) {
+    if (std::isnan(value)) return ifNaN;
+    if (value <= static_cast<lua_Number>(low)) return low;
+    if (value >= static_cast<lua_Number>(high)) return high;
+    return static_cast<lua_Integer>(value);  // truncates toward zero, as lua_tointeger does
+}
+
+// Positions are ints; a string longer than that has its later bytes out of reach.
+int positionLength(size_t length) {
+    return static_cast<int>(std::min<size_t>(length, INT_MAX));
+}
+
+enum class ResultEnd { kFirstZero, kWholeString };
+
+// The C++ work of a function whose one result is a string: work fills a string that Lua
+// owns, so nothing in a C++ frame is left to leak when the final push runs out of memory.
+template <typename Work>
+int returnString(lua_State* L, const char* functionName, ResultEnd end, Work work) {
+    std::string* out = utility::PushResultString(L);
+    utility::RunNative(L, functionName, [&] { work(*out); });
+    if (end == ResultEnd::kFirstZero)
+        lua_pushstring(L, out->c_str());
+    else
+        lua_pushlstring(L, out->data(), out->size());
+    return 1;
 }
 
 // The rows without behaviour: any arguments, no check, no result.
@@ -47,8 +74,8 @@ int strNoBehaviour(lua_State*) {
 int strGetCharB(lua_State* L) {
     size_t length = 0;
     const char* s = luaL_checklstring(L, 1, &length);
-    luaL_checkinteger(L, 2);
-    const int pos = GetOptionalOneBasedPos(L, 2, static_cast<int>(length), "GetCharB", 1);
+    luaL_checknumber(L, 2);  // required; not checkinteger, which converts before the helper clamps
+    const int pos = GetOptionalOneBasedPos(L, 2, positionLength(length), "GetCharB", 1);
     lua_pushlstring(L, s + pos - 1, 1);
     return 1;
 }
@@ -59,7 +86,7 @@ int strGetCharB(lua_State* L) {
 int classifyByte(lua_State* L, std::ctype_base::mask byteClass, const char* functionName) {
     size_t length = 0;
     const char* s = luaL_checklstring(L, 1, &length);
-    const int pos = GetOptionalOneBasedPos(L, 2, static_cast<int>(length), functionName, 1);
+    const int pos = GetOptionalOneBasedPos(L, 2, positionLength(length), functionName, 1);
     const auto& table = std::use_facet<std::ctype<char>>(std::locale::classic());
     lua_pushboolean(L, table.is(byteClass, s[pos - 1]));
     return 1;
@@ -80,9 +107,9 @@ int strLocalize(lua_State* L) {
     size_t length = 0;
     const char* key = luaL_checklstring(L, 1, &length);
     if (length == 0) return 0;
-    return utility::RunNative(L, "Localize", [&] {
-        pushUTF16AsUTF8(L, zebcore::config::Localizer::Get()->GetLocalizedString(key));
-        return 1;
+    return returnString(L, "Localize", ResultEnd::kFirstZero, [&](std::string& out) {
+        out =
+            zebcore::utility::UTF16to8(zebcore::config::Localizer::Get()->GetLocalizedString(key));
     });
 }
 
@@ -99,32 +126,33 @@ int strReplaceInString(lua_State* L) {
     int last = 2;
     while (last < top && !lua_isnil(L, last + 1))
         luaL_checklstring(L, ++last, nullptr);  // converts a number in place, so tostring reads it
-    return utility::RunNative(L, "ReplaceInString", [&] {
+    return returnString(L, "ReplaceInString", ResultEnd::kFirstZero, [&](std::string& out) {
         std::vector<UTF16String> replacements;
         for (int index = 2; index <= last; ++index)
             replacements.push_back(zebcore::utility::UTF8to16(lua_tostring(L, index)));
-        pushUTF16AsUTF8(L, zebcore::utility::ReplaceInString(
-                               zebcore::utility::UTF8to16(templateText), replacements));
-        return 1;
+        out = zebcore::utility::UTF16to8(zebcore::utility::ReplaceInString(
+            zebcore::utility::UTF8to16(templateText), replacements));
     });
 }
 
 // -- part = zebString.SubstringB(s, pos [, count])
 // A negative pos counts from the end one further than the other functions do: -1 starts at
 // the last byte but one. The start is clamped into the string; count 0 takes the rest.
+// Positions and counts past the string's ends answer as its ends do, so they are clamped
+// to one beyond them before they become integers; a NaN position or count is refused.
 int strSubstringB(lua_State* L) {
     size_t length = 0;
     const char* s = luaL_checklstring(L, 1, &length);
+    const auto n = static_cast<lua_Integer>(length);
     luaL_checktype(L, 2, LUA_TNUMBER);
-    const lua_Integer pos = lua_tointeger(L, 2);
+    const lua_Integer pos = clampToInteger(lua_tonumber(L, 2), -n - 1, n + 1, 0);
     if (pos == 0) return raisePlainError(L, kBadCountMessage);
     lua_Integer count = 0;
     if (lua_gettop(L) >= 3 && !lua_isnil(L, 3)) {
         luaL_checktype(L, 3, LUA_TNUMBER);
-        count = lua_tointeger(L, 3);
+        count = clampToInteger(lua_tonumber(L, 3), -1, n + 1, -1);
         if (count < 0) return raisePlainError(L, kBadCountMessage);
     }
-    const auto n = static_cast<lua_Integer>(length);
     lua_Integer start = pos > 0 ? pos - 1 : n + pos - 1;
     if (start > n - 1) start = n - 1;
     if (start < 0) start = 0;
@@ -155,7 +183,7 @@ int strMatchB(lua_State* L) {
     size_t length = 0;
     const char* s = luaL_checklstring(L, 1, &length);
     const char* pattern = luaL_checkstring(L, 2);
-    const int pos = GetOptionalOneBasedPos(L, 3, static_cast<int>(length), "MatchB", 1);
+    const int pos = GetOptionalOneBasedPos(L, 3, positionLength(length), "MatchB", 1);
     return utility::RunNative(L, "MatchB", [&] {
         const char* first = s + pos - 1;
         RegexMatch match{};
@@ -176,17 +204,14 @@ int strReplaceB(lua_State* L) {
     const char* s = luaL_checklstring(L, 1, &length);
     const char* pattern = luaL_checkstring(L, 2);
     const char* format = luaL_checkstring(L, 3);
-    const int pos = GetOptionalOneBasedPos(L, 4, static_cast<int>(length), "ReplaceB", 1);
+    const int pos = GetOptionalOneBasedPos(L, 4, positionLength(length), "ReplaceB", 1);
     bool firstOnly = false;
     if (lua_gettop(L) >= 5 && !lua_isnil(L, 5)) {
         luaL_checktype(L, 5, LUA_TBOOLEAN);
         firstOnly = !lua_toboolean(L, 5);
     }
-    return utility::RunNative(L, "ReplaceB", [&] {
-        const std::string out =
-            ReplaceRegex(pattern, s, s + pos - 1, s + length, format, firstOnly);
-        lua_pushstring(L, out.c_str());
-        return 1;
+    return returnString(L, "ReplaceB", ResultEnd::kFirstZero, [&](std::string& out) {
+        ReplaceRegex(pattern, s, s + pos - 1, s + length, format, firstOnly, out);
     });
 }
 
@@ -201,11 +226,10 @@ int strCompare(lua_State* L) {
 
 int mapCase(lua_State* L, const char* functionName, void (*map)(UTF16String&)) {
     const char* s = luaL_checkstring(L, 1);
-    return utility::RunNative(L, functionName, [&] {
+    return returnString(L, functionName, ResultEnd::kFirstZero, [&](std::string& out) {
         UTF16String text = zebcore::utility::UTF8to16(s);
         map(text);
-        pushUTF16AsUTF8(L, text);
-        return 1;
+        out = zebcore::utility::UTF16to8(text);
     });
 }
 
@@ -223,11 +247,9 @@ int strToLower(lua_State* L) {
 // order, without byte order mark or terminator.
 int strUTF8to16(lua_State* L) {
     const char* s = luaL_checkstring(L, 1);
-    return utility::RunNative(L, "UTF8to16", [&] {
+    return returnString(L, "UTF8to16", ResultEnd::kWholeString, [&](std::string& out) {
         const UTF16String units = zebcore::utility::UTF8to16(s);
-        lua_pushlstring(L, reinterpret_cast<const char*>(units.data()),
-                        units.size() * sizeof(char16_t));
-        return 1;
+        out.assign(reinterpret_cast<const char*>(units.data()), units.size() * sizeof(char16_t));
     });
 }
 
@@ -236,13 +258,11 @@ int strUTF8to16(lua_State* L) {
 int strUTF16to8(lua_State* L) {
     size_t length = 0;
     const char* bytes = luaL_checklstring(L, 1, &length);
-    return utility::RunNative(L, "UTF16to8", [&] {
+    return returnString(L, "UTF16to8", ResultEnd::kWholeString, [&](std::string& out) {
         // A copy, since the bytes of a Lua string need not be aligned for char16_t.
         UTF16String units(length / sizeof(char16_t), u'\0');
         std::memcpy(&units[0], bytes, units.size() * sizeof(char16_t));
-        const UTF8String utf8 = zebcore::utility::UTF16to8(units.c_str());
-        lua_pushlstring(L, utf8.data(), utf8.size());
-        return 1;
+        out = zebcore::utility::UTF16to8(units.c_str());
     });
 }
 
@@ -294,7 +314,8 @@ int GetOptionalOneBasedPos(lua_State* L, int index, int length, const char* func
                            int defaultPos) {
     if (lua_gettop(L) < index || lua_isnil(L, index)) return defaultPos;
     luaL_checktype(L, index, LUA_TNUMBER);
-    lua_Integer pos = lua_tointeger(L, index);
+    // Anything beyond either end is as wrong as one past it; NaN is no position at all.
+    lua_Integer pos = clampToInteger(lua_tonumber(L, index), -length - 1, length + 1, 0);
     if (pos < 0) pos += length + 1;  // -1 is the last byte
     if (pos < 1 || pos > length) {
         lua_pushfstring(L, "%s: Invalid stack position", functionName);
