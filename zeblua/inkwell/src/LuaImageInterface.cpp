@@ -58,7 +58,7 @@ const char* const kZebLuaImageMetaTableName = kImageMetaTable;
 // The proxy takes its own reference once it exists. Only Lua's memory error can stop the
 // push, and its longjmp would skip releasing the reference that image carries.
 int newProxyFromImage(lua_State* L, boost::intrusive_ptr<ImageInterface> image) {
-    utility::PushCountedProxy(L, image.get(), kImageMetaTable);
+    utility::PushCountedProxy(L, image.get(), kImageMetaTable, luaopen_zebImageInterface);
     return 1;
 }
 

@@ -53,7 +53,8 @@ PointT<float> checkCoordinates(lua_State* L, int index) {
 int pathNew(lua_State* L) {
     const InkwellProxy* ink = zeblua_checkInkwell(L, 1);
     if (!InkwellInScope(ink)) return 0;
-    PathP** block = utility::PushPointerProxy<PathP>(L, nullptr, kPathMetaTable);
+    PathP** block =
+        utility::PushPointerProxy<PathP>(L, nullptr, kPathMetaTable, luaopen_zebPathInterface);
     *block = utility::RunNative(L, "newPath", [ink] { return new PathP(DrawingSupplierOf(ink)); });
     return 1;
 }

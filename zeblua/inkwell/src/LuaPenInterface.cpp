@@ -65,7 +65,8 @@ int penNew(lua_State* L) {
     ColorRGBA colour;
     GetColorRGBAFromLua(L, 2, colour);
     const float width = static_cast<float>(luaL_checknumber(L, 3));
-    PenInterface** block = utility::PushPointerProxy<PenInterface>(L, nullptr, kPenMetaTable);
+    PenInterface** block = utility::PushPointerProxy<PenInterface>(
+        L, nullptr, kPenMetaTable, luaopen_zeblua_inkwell_PenInterface);
     *block = DrawingSupplierOf(ink)->MakePen(colour, width);
     if (*block) intrusive_ptr_add_ref(*block);
     return 1;

@@ -63,8 +63,8 @@ int pushNewShader(lua_State* L,
     if (!InkwellInScope(ink)) return 0;
     GradientArguments gradient;
     readGradient(L, gradient);
-    ShaderInterface** block =
-        utility::PushPointerProxy<ShaderInterface>(L, nullptr, kShaderMetaTable);
+    ShaderInterface** block = utility::PushPointerProxy<ShaderInterface>(
+        L, nullptr, kShaderMetaTable, luaopen_zeblua_inkwell_ShaderInterface);
     *block = make(*DrawingSupplierOf(ink), gradient);
     if (*block) intrusive_ptr_add_ref(*block);
     return 1;

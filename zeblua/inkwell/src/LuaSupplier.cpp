@@ -38,7 +38,7 @@ const char* const kZebLuaUSupplierInterfaceClassName = kSupplierClass;
 const char* const kZebLuaUSupplierInterfaceMetaTableName = kSupplierMetaTable;
 
 int PushSupplierToLua(lua_State* L, const SupplierInterface* supplier) {
-    utility::PushPointerProxy(L, supplier, kSupplierMetaTable);
+    utility::PushPointerProxy(L, supplier, kSupplierMetaTable, luaopen_zebluaSupplier);
     return 1;
 }
 

@@ -197,16 +197,6 @@ int surfaceRelease(lua_State* L) {
     return 0;
 }
 
-// -- __gc
-// Leaves the toolkit's objects alone: a scoped surface is the toolkit's, and an offscreen
-// surface that a script never released lives on. Only the record's bookkeeping goes. A
-// script calling __gc on a light userdata reaches a record that is not going.
-int surfaceGC(lua_State* L) {
-    InkwellProxy* proxy = zeblua_checkSurface(L, 1);
-    if (lua_type(L, 1) == LUA_TUSERDATA) ForgetSurfaceRecord(proxy);
-    return 0;
-}
-
 // -- "zebSurfaceInterface(%p)" of the surface, null once ended
 int surface2string(lua_State* L) {
     return utility::PushProxyString(L, kZebLuaSurfaceClassName, zeblua_checkSurface(L, 1)->surface);
@@ -215,14 +205,21 @@ int surface2string(lua_State* L) {
 // -- surface:PushStateStack()
 int surfacePushStateStack(lua_State* L) {
     InkwellProxy* proxy = liveSurface(L);
-    if (proxy) proxy->surface->PushStateStack();
+    if (!proxy) return 0;
+    proxy->surface->PushStateStack();
+    ++proxy->pushedStates;
     return 0;
 }
 
 // -- surface:PopStateStack()
+// Pops only what this surface's PushStateStack pushed: the state below is its scope's.
 int surfacePopStateStack(lua_State* L) {
     InkwellProxy* proxy = liveSurface(L);
-    if (proxy) proxy->surface->PopStateStack();
+    if (!proxy) return 0;
+    ZEB_ASSERT_MSG(proxy->pushedStates > 0, "PopStateStack without PushStateStack");
+    if (proxy->pushedStates == 0) return 0;
+    --proxy->pushedStates;
+    proxy->surface->PopStateStack();
     return 0;
 }
 
@@ -509,7 +506,7 @@ int surfaceFlush(lua_State* L) {
 const luaL_Reg kSurfaceFunctions[] = {{nullptr, nullptr}};
 
 const luaL_Reg kSurfaceMethods[] = {
-    {"__gc", surfaceGC},
+    {"__gc", utility::NothingGC},  // a scoped surface is the toolkit's; an offscreen one lives on
     {"__tostring", surface2string},
     {"Release", surfaceRelease},
     {"PushStateStack", surfacePushStateStack},

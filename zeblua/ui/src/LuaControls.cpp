@@ -42,6 +42,7 @@
 #include "zeblua/ui/src/LuaUI_WebViewWrapper.h"
 #include "zeblua/ui/src/ObjectBasedGC.h"
 #include "zeblua/utility/src/LuaModule.h"
+#include "zeblua/utility/src/MainThread.h"
 #include "zebui/controls/UI_InteractiveControlChangedMessage.h"
 
 namespace zeblua {
@@ -124,6 +125,7 @@ void registerControlMetatables(lua_State* L, const ControlMetatable (&list)[N]) 
     for (const ControlMetatable& entry : list) {
         luaL_checkstack(L, 2, kControlsStackMessage);
         newSelfIndexedMetatable(L, entry.name());
+        MarkWrapperMetatable(L);
         entry.registerMethods(L);
         lua_settop(L, -2);
     }
@@ -140,6 +142,7 @@ void registerRowMetatable(lua_State* L) {
 }  // namespace
 
 int luaopen_LuaControls(lua_State* L) {
+    utility::RecordMainThread(L);
     luaL_checkstack(L, 3, kControlsStackMessage);
     lua_getfield(L, LUA_REGISTRYINDEX, LuaUI_NodeWrapper::GetMetatableName());
     const bool opened = !lua_isnil(L, -1);

@@ -147,8 +147,8 @@ const char* const kZebLuaUIResourcesMetaTableName = kResourcesMetaTable;
 
 int PushResourcesToLua(lua_State* L, const ResourceManager* manager,
                        const InkwellImageResourceCache* cache) {
-    new (utility::NewProxyBlock(L, sizeof(ResourcesRecord), kResourcesMetaTable))
-        ResourcesRecord{manager, cache};
+    new (utility::NewProxyBlock(L, sizeof(ResourcesRecord), kResourcesMetaTable,
+                                luaopen_zebluaResources)) ResourcesRecord{manager, cache};
     return 1;
 }
 

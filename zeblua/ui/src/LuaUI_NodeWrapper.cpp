@@ -17,7 +17,6 @@ int nodeRelease(lua_State* L) {
     LuaControlWrapperBase* wrapper = GetControlUserData(L, 1);
     if (!wrapper) return 0;
     wrapper->ReleaseNode();
-    wrapper->ReleaseTimerReferences(L);
     return 0;
 }
 
@@ -63,6 +62,7 @@ int nodeUI_InstallTimer(lua_State* L) {
         luaL_unref(L, LUA_REGISTRYINDEX, reference); /* no timer holds it */
         return 0;
     }
+    wrapper->KeepWhileTimersRun(L, 1);
     if (id == 0) return 0;
     lua_pushnumber(L, id);
     return 1;

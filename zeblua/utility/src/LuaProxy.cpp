@@ -3,6 +3,8 @@
 
 #include <lua.hpp>
 
+#include "zebcore/debug/Debug.h"
+
 namespace zeblua {
 namespace utility {
 
@@ -29,9 +31,16 @@ void pushMetatable(lua_State* L, const char* metatableName) {
 
 }  // namespace
 
-void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName) {
+void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName, ModuleOpener opener) {
     void* block = lua_newuserdata(L, size);
     pushMetatable(L, metatableName);
+    if (lua_isnil(L, -1)) {
+        lua_pop(L, 1);
+        lua_pushcfunction(L, opener);
+        lua_call(L, 0, 0);
+        pushMetatable(L, metatableName);
+        ZEB_ASSERT_MSG(!lua_isnil(L, -1), "The opener of a proxy made no metatable");
+    }
     lua_setmetatable(L, -2);
     return block;
 }

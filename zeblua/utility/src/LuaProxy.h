@@ -26,9 +26,15 @@ template <class T> struct OwnedPointer {
 // metatableName is always a module's constant name: its address is remembered per state
 // in place of hashing the name on every call, so it must not be a passing buffer.
 
-// Pushes a new userdata of size bytes with the metatable registered under
-// metatableName (none if that module has not been opened). Raises only Lua's memory error.
-void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName);
+// The luaopen function of the module that registers a proxy's metatable.
+using ModuleOpener = int (*)(lua_State*);
+
+// Pushes a new userdata of size bytes with the metatable registered under metatableName.
+// A proxy never reaches a script bare: when that module has not been opened yet, opener
+// opens it first (as require would, leaving its global table), so a proxy handed out
+// before its module was required still has its methods and its __gc. Raises Lua's memory
+// error, or whatever error the opener raises.
+void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName, ModuleOpener opener);
 
 // luaL_checkudata: the block at index, or Lua's standard type error naming metatableName.
 void* CheckProxyBlock(lua_State* L, int index, const char* metatableName);
@@ -46,21 +52,23 @@ int NothingGC(lua_State* L);
 
 // --- Pushing -------------------------------------------------------------------------
 
-template <class T> T** PushPointerProxy(lua_State* L, T* object, const char* metatableName) {
-    return new (NewProxyBlock(L, sizeof(T*), metatableName)) T*(object);
+template <class T>
+T** PushPointerProxy(lua_State* L, T* object, const char* metatableName, ModuleOpener opener) {
+    return new (NewProxyBlock(L, sizeof(T*), metatableName, opener)) T*(object);
 }
 
 // For counted objects: the proxy holds one reference of its own (none for null).
-template <class T> T** PushCountedProxy(lua_State* L, T* object, const char* metatableName) {
-    T** block = PushPointerProxy(L, object, metatableName);
+template <class T>
+T** PushCountedProxy(lua_State* L, T* object, const char* metatableName, ModuleOpener opener) {
+    T** block = PushPointerProxy(L, object, metatableName, opener);
     if (object) intrusive_ptr_add_ref(object);  // after the push, which may raise
     return block;
 }
 
 template <class T>
 OwnedPointer<T>* PushOwnedPointerProxy(lua_State* L, T* object, bool owned,
-                                       const char* metatableName) {
-    return new (NewProxyBlock(L, sizeof(OwnedPointer<T>), metatableName))
+                                       const char* metatableName, ModuleOpener opener) {
+    return new (NewProxyBlock(L, sizeof(OwnedPointer<T>), metatableName, opener))
         OwnedPointer<T>{object, owned};
 }
 

@@ -7,7 +7,6 @@
 #include <list>
 #include <map>
 #include <new>
-#include <unordered_set>
 
 #include <lua.hpp>
 
@@ -15,6 +14,7 @@
 #include "zeblua/inkwell/src/LuaInkwell.h"
 #include "zeblua/inkwell/src/LuaSurfaceInterface.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zeblua/utility/src/RegistryTables.h"
 #include "zebui/inkwell/Inkwell.h"
 #include "zebui/inkwell/SurfaceInterface.h"
 #include "zebui/ui/UI_NodeManager.h"
@@ -24,70 +24,57 @@ namespace inkwell {
 
 namespace {
 
+using utility::ClearPresentField;
+using utility::PushOrMakeRegistryTable;
+using utility::PushRegistryTable;
 using zebui::inkwell::Inkwell;
 using zebui::inkwell::SurfaceInterface;
 
 // Scoped surface records by the Inkwell whose scope ends them. Lua owns the records;
-// each listed one is anchored (sScopeAnchorsKey) until it leaves the list.
+// each listed one is anchored (sScopeAnchorsKey) until it leaves the list, so only
+// lua_close can free a listed record, and the anchors' close sentinel unlists it first.
 std::map<Inkwell*, std::list<InkwellProxy*>> sLinkedObjects;
 
-// Every surface record the collector has not taken, for checking light userdata.
-std::unordered_set<const InkwellProxy*> sSurfaceRecords;
-
 // What a light userdata that names no surface record stands for. Only ever nulled.
-InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false};
+InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0};
 
-// Registry keys, by address. Light userdata keys cost no allocation to look up or clear,
-// so a scope can close during unwinding without the risk of a Lua memory error.
+// Registry keys, by address.
 // One anchor table holds the Inkwell proxy of every open scope and every listed surface
 // record: few live keys at a time, so a new key mostly takes a released one's slot, and a
 // scope costs no table of its own. One weak table per slot, so that keeping a value costs
-// no table per proxy either.
+// no table per proxy either. The live records are weak-valued: an entry goes when the
+// collector takes its record, whether or not a __gc runs, so a light userdata is checked
+// there and never against memory that may be gone.
 char sScopeAnchorsKey;                        // [lightud(record)] = its userdata
+char sLiveRecordsKey;                         // weak values: [lightud(record)] = its userdata
 char sKeptValuesKeys[kKeptBoundSurface + 1];  // per KeptSlot, weak keys: [proxy] = value
 
-// Pushes the registry table under key, or nil.
-void pushRegistryTable(lua_State* L, char* key) {
-    lua_pushlightuserdata(L, key);
-    lua_rawget(L, LUA_REGISTRYINDEX);
-}
-
-// Pushes the registry table under key, making it when missing; weakKeys gives it mode "k".
-void pushOrMakeRegistryTable(lua_State* L, char* key, bool weakKeys) {
-    pushRegistryTable(L, key);
-    if (lua_istable(L, -1)) return;
-    lua_pop(L, 1);
-    lua_newtable(L);
-    if (weakKeys) {
-        lua_createtable(L, 0, 1);
-        lua_pushstring(L, "k");
-        lua_setfield(L, -2, "__mode");
-        lua_setmetatable(L, -2);
+// The record leaves every list it is in.
+void unlist(const InkwellProxy* record) {
+    for (auto entry = sLinkedObjects.begin(); entry != sLinkedObjects.end();) {
+        entry->second.remove(const_cast<InkwellProxy*>(record));
+        entry = entry->second.empty() ? sLinkedObjects.erase(entry) : std::next(entry);
     }
-    lua_pushlightuserdata(L, key);
-    lua_pushvalue(L, -2);
-    lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = table */
 }
 
-// Pops a key and clears that field of the table at tableIndex (absolute) if it is set.
-// Setting nil on a present key never allocates; on an absent one it could.
-void clearPresentField(lua_State* L, int tableIndex) {
-    lua_pushvalue(L, -1);
-    lua_rawget(L, tableIndex); /* key, value */
-    const bool present = !lua_isnil(L, -1);
-    lua_pop(L, 1);
-    if (present) {
-        lua_pushnil(L);
-        lua_rawset(L, tableIndex); /* t[key] = nil; pops key and nil */
-    } else {
+// The anchors' close sentinel: a scope still open when the state closes (an Inkwell proxy
+// made outside a guard, or an owned Inkwell a script stripped of its __gc) must not leave
+// the state's records listed once their memory goes.
+int unlistAnchoredRecords(lua_State* L) {
+    PushRegistryTable(L, &sScopeAnchorsKey);
+    if (!lua_istable(L, -1)) return 0;
+    lua_pushnil(L);
+    while (lua_next(L, -2)) { /* anchors, key, userdata */
         lua_pop(L, 1);
+        unlist(static_cast<const InkwellProxy*>(lua_touserdata(L, -1)));
     }
+    return 0;
 }
 
 // Holds the userdata on top of the stack (left there), whose block is record, until
 // releaseAnchor.
 void anchor(lua_State* L, InkwellProxy* record) {
-    pushOrMakeRegistryTable(L, &sScopeAnchorsKey, false); /* ud, anchors */
+    PushOrMakeRegistryTable(L, &sScopeAnchorsKey, nullptr, unlistAnchoredRecords); /* ud, anchors */
     lua_pushlightuserdata(L, record);
     lua_pushvalue(L, -3);
     lua_rawset(L, -3); /* anchors[record] = ud */
@@ -96,12 +83,31 @@ void anchor(lua_State* L, InkwellProxy* record) {
 
 // Lets the collector have record again; raises no Lua error.
 void releaseAnchor(lua_State* L, InkwellProxy* record) {
-    pushRegistryTable(L, &sScopeAnchorsKey);
+    PushRegistryTable(L, &sScopeAnchorsKey);
     if (lua_istable(L, -1)) {
         lua_pushlightuserdata(L, record);
-        clearPresentField(L, lua_gettop(L) - 1);
+        ClearPresentField(L, lua_gettop(L) - 1);
     }
     lua_pop(L, 1);
+}
+
+// Names the surface record userdata on top of the stack (left there) as live.
+void markLive(lua_State* L, InkwellProxy* record) {
+    PushOrMakeRegistryTable(L, &sLiveRecordsKey, "v", nullptr); /* ud, live */
+    lua_pushlightuserdata(L, record);
+    lua_pushvalue(L, -3);
+    lua_rawset(L, -3); /* live[record] = ud */
+    lua_pop(L, 1);
+}
+
+// Pops what the script pushed on the state stack of the scope's surface and did not pop:
+// the state the scope's opener saved is then on top again.
+void popScriptStates(const InkwellProxy& inkwellProxy) {
+    InkwellProxy* record = inkwellProxy.surfaceProxy;
+    if (!record || !inkwellProxy.inkwell) return;
+    SurfaceInterface* surface = inkwellProxy.inkwell->GetSurface();
+    for (; record->pushedStates > 0; --record->pushedStates)
+        if (surface) surface->PopStateStack();
 }
 
 int absoluteIndex(lua_State* L, int index) {
@@ -118,14 +124,16 @@ AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& ar
 }
 
 AcquireInkwellProxy::~AcquireInkwellProxy() {
+    popScriptStates(*mProxy);
     EndInkwellScope(mL, mProxy->inkwell);
     InvalidateProxy(mProxy);
     releaseAnchor(mL, mProxy);
 }
 
 int newProxyFromInkwell(lua_State* L, Inkwell* inkwell, InkwellProxy** out) {
-    auto* proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaInkwellMetaTableName))
-        InkwellProxy{inkwell, nullptr, nullptr, false};
+    auto* proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaInkwellMetaTableName,
+                                              luaopen_zebluaInkwell))
+        InkwellProxy{inkwell, nullptr, nullptr, false, 0};
     if (out) *out = proxy;
     return 1;
 }
@@ -140,14 +148,10 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
         if (out) *out = existing;
         return 1;
     }
-    auto* proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaSurfaceMetaTableName))
-        InkwellProxy{nullptr, surface, nullptr, owned};
-    // Its __gc takes it out again; without the module's metatable there is no __gc, and
-    // a light userdata of it is then never taken for live.
-    if (lua_getmetatable(L, -1)) {
-        lua_pop(L, 1);
-        sSurfaceRecords.insert(proxy);
-    }
+    auto* proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaSurfaceMetaTableName,
+                                              luaopen_zebSurfaceInterface))
+        InkwellProxy{nullptr, surface, nullptr, owned, 0};
+    markLive(L, proxy);
     if (!owned) {
         anchor(L, proxy);
         if (parent) parent->surfaceProxy = proxy;
@@ -189,23 +193,22 @@ void EndInkwellScope(lua_State* L, Inkwell* inkwell) {
 
 InkwellProxy* SurfaceRecordAt(lua_State* L, int index) {
     auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, index));
-    if (lua_islightuserdata(L, index) && sSurfaceRecords.count(record) == 0) return &sEndedSurface;
-    return record;
-}
-
-void ForgetSurfaceRecord(InkwellProxy* record) {
-    sSurfaceRecords.erase(record);
-    // Only a lua_close with a scope still open gets here with the record listed: the
-    // anchors hold every listed record until its scope ends.
-    for (auto entry = sLinkedObjects.begin(); entry != sLinkedObjects.end();) {
-        entry->second.remove(record);
-        entry = entry->second.empty() ? sLinkedObjects.erase(entry) : std::next(entry);
+    if (!lua_islightuserdata(L, index)) return record;
+    PushRegistryTable(L, &sLiveRecordsKey);
+    bool live = false;
+    if (lua_istable(L, -1)) {
+        lua_pushlightuserdata(L, record);
+        lua_rawget(L, -2);
+        live = !lua_isnil(L, -1);
+        lua_pop(L, 1);
     }
+    lua_pop(L, 1);
+    return live ? record : &sEndedSurface;
 }
 
 void KeepWithProxy(lua_State* L, int proxyIndex, KeptSlot slot) {
     proxyIndex = absoluteIndex(L, proxyIndex);
-    pushOrMakeRegistryTable(L, &sKeptValuesKeys[slot], true); /* value, kept */
+    PushOrMakeRegistryTable(L, &sKeptValuesKeys[slot], "k", nullptr); /* value, kept */
     lua_pushvalue(L, proxyIndex);
     lua_pushvalue(L, -3);
     lua_rawset(L, -3); /* kept[proxy] = value */
@@ -214,7 +217,7 @@ void KeepWithProxy(lua_State* L, int proxyIndex, KeptSlot slot) {
 
 void PushKeptValue(lua_State* L, int proxyIndex, KeptSlot slot) {
     proxyIndex = absoluteIndex(L, proxyIndex);
-    pushRegistryTable(L, &sKeptValuesKeys[slot]);
+    PushRegistryTable(L, &sKeptValuesKeys[slot]);
     if (lua_istable(L, -1)) {
         lua_pushvalue(L, proxyIndex);
         lua_rawget(L, -2);
@@ -224,10 +227,10 @@ void PushKeptValue(lua_State* L, int proxyIndex, KeptSlot slot) {
 
 void DropKeptValue(lua_State* L, int proxyIndex, KeptSlot slot) {
     proxyIndex = absoluteIndex(L, proxyIndex);
-    pushRegistryTable(L, &sKeptValuesKeys[slot]);
+    PushRegistryTable(L, &sKeptValuesKeys[slot]);
     if (lua_istable(L, -1)) {
         lua_pushvalue(L, proxyIndex);
-        clearPresentField(L, lua_gettop(L) - 1);
+        ClearPresentField(L, lua_gettop(L) - 1);
     }
     lua_pop(L, 1);
 }

@@ -29,6 +29,10 @@ struct InkwellProxy {
     // Inkwell proxy: it deletes the Inkwell (NewInkwell). Surface proxy: it holds one
     // reference on an offscreen surface.
     bool owned;
+    // Surface proxy only: states its PushStateStack pushed that its PopStateStack has not
+    // popped. A pop beyond them is refused, so a script never pops a state its scope's
+    // opener saved, and the scope pops what is left when it closes.
+    int pushedStates;
 };
 
 // Scope guard of a draw callback, made on the native stack right before lua_pcall:
@@ -36,8 +40,9 @@ struct InkwellProxy {
 //   int argCount = 0;
 //   { AcquireInkwellProxy scope(L, inkwell, argCount); lua_pcall(L, argCount, 0, 0); }
 // Pushes the Inkwell proxy the callback receives. The destructor, on return or on
-// unwinding, ends that proxy and every surface proxy taken on the same Inkwell, also
-// those of an enclosing scope. The proxy's record is held in the registry for the scope,
+// unwinding, pops the states the callback pushed on its surface and left there, then ends
+// that proxy and every surface proxy taken on the same Inkwell, also those of an enclosing
+// scope. The proxy's record is held in the registry for the scope,
 // so a callback that drops its argument cannot free what the destructor writes to.
 class AcquireInkwellProxy {
 public:
@@ -81,11 +86,8 @@ void EndInkwellScope(lua_State* L, zebui::inkwell::Inkwell* inkwell);
 // The record of the surface proxy at index (already checked as one). A light userdata
 // is a bare address the collector does not follow: one that names no record Lua still
 // holds gives a shared record that has ended, so a stale value reports instead of
-// reading freed memory.
+// reading freed memory. Raises no Lua error.
 InkwellProxy* SurfaceRecordAt(lua_State* L, int index);
-
-// The collector is taking a surface record: it leaves every list it is in.
-void ForgetSurfaceRecord(InkwellProxy* record);
 
 // Values that live exactly as long as a proxy userdata, in slots of a weak-keyed
 // registry table: how a record named by a bare address in another is kept allocated.

@@ -1,0 +1,270 @@
+// Lifetimes under a hostile script: kept, released, collected and forged proxies, hand-called
+// and removed metamethods, coroutines around callbacks, errors and yields in every callback.
+#include <string>
+
+#include <boost/intrusive_ptr.hpp>
+#include <gmock/gmock.h>
+#include <lua.hpp>
+
+#include "tests/DrawingTestFixture.h"
+#include "tests/LuaTestFixture.h"
+#include "zebcore/debug/Debug.h"
+#include "zebcore/geom/Geometry.h"
+#include "zeblua/inkwell/src/InkProxyObjs/InkwellProxy.h"
+#include "zeblua/ui/src/LuaControlWrapperFactory.h"
+#include "zebui/ui/EventLoop.h"
+#include "zebui/ui/UI_SubView.h"
+
+namespace {
+
+using ::testing::HasSubstr;
+using zebui::ui::EventLoop;
+using NodeP = boost::intrusive_ptr<zebui::ui::UI_Node>;
+
+const char* const kSurfaceEnded = "Attempting to use an out-of-scope SurfaceInterface";
+const char* const kUnbalancedPop = "PopStateStack without PushStateStack";
+const char* const kYieldAcross = "attempt to yield across metamethod/C-call boundary";
+
+// newSubView(): a wrapper of a new view, pushed on whichever thread calls.
+int newSubView(lua_State* L) {
+    return zeblua::ui::LuaControlWrapperFactory(NodeP(new zebui::ui::UI_SubView), L) ? 1 : 0;
+}
+
+// Nothing is required here: every module a test uses opens when its first proxy is pushed,
+// which is itself under test.
+class LifetimeAbuseTest : public LuaTest {
+protected:
+    void SetUp() override {
+        LuaTest::SetUp();
+        lua_register(L, "newSubView", newSubView);
+        lua_pushlightuserdata(L, this);
+        lua_pushcclosure(L, drawOnCanvas, 1);
+        lua_setglobal(L, "drawOnCanvas");
+        runLua("rect = zeblua_CreateNewRectF32; red = zeblua_CreateNewRGBA(1, 0, 0, 1)");
+        zebcore::debug::ClearRecordedAssertReports();
+    }
+
+    // ok [, message] = drawOnCanvas(fn): a draw hook's call on the fixture's canvas, its
+    // surface state saved around the scope as the hook saves it.
+    static int drawOnCanvas(lua_State* L) {
+        auto* self = static_cast<LifetimeAbuseTest*>(lua_touserdata(L, lua_upvalueindex(1)));
+        luaL_checktype(L, 1, LUA_TFUNCTION);
+        lua_settop(L, 1);
+        self->mCanvas.surface->PushStateStack();
+        int status = 0;
+        {
+            int argCount = 0;
+            zeblua::inkwell::AcquireInkwellProxy scope(L, &self->mCanvas.inkwell, argCount);
+            status = lua_pcall(L, argCount, 0, 0);
+        }
+        self->mCanvas.surface->PopStateStack();
+        lua_pushboolean(L, status == 0);
+        lua_insert(L, 1);
+        return lua_gettop(L);
+    }
+
+    static int reportCount(const std::string& message) {
+        int count = 0;
+        for (const auto& report : zebcore::debug::RecordedAssertReports())
+            if (report.message == message) ++count;
+        return count;
+    }
+
+    // Each of calls answers nothing, raises nothing, and makes the one report.
+    void expectEnded(const std::string& call, const char* report) {
+        zebcore::debug::ClearRecordedAssertReports();
+        EXPECT_EQ(resultCount(call), 0) << call;
+        EXPECT_EQ(reportCount(report), 1) << call;
+    }
+
+    zebui::inkwell::CairoSupplier mSupplier;
+    Canvas mCanvas{mSupplier, 16};
+};
+
+TEST_F(LifetimeAbuseTest, ForgedWrappersAreBadUserData) {
+    runLua("real = newSubView(); nodeSet = getmetatable(real)\n"
+           "function forge(fields)\n"
+           "  local p = newproxy(true)\n"
+           "  for k, v in pairs(fields) do getmetatable(p)[k] = v end\n"
+           "  return p\n"
+           "end\n"
+           "copied = {}; for k, v in pairs(nodeSet) do copied[k] = v end");
+    const char* const forgeries[] = {
+        "forge({ControlWrapperIdentifier = nodeSet.ControlWrapperIdentifier})",
+        "forge(copied)",
+        "forge({ControlWrapperIdentifier = print, __index = nodeSet})",
+    };
+    for (const char* forgery : forgeries) {
+        runLua(std::string("fake = ") + forgery);
+        for (const char* call :
+             {"nodeSet.UI_GetNodeID(fake)", "nodeSet.Release(fake)", "nodeSet.__gc(fake)",
+              "nodeSet.UI_InstallTimer(fake, 1, print)", "nodeSet.UI_RemoveTimer(fake, 1)"})
+            EXPECT_THAT(luaError(call), HasSubstr("Bad user data")) << forgery << ": " << call;
+    }
+    EXPECT_EQ(luaValue("real:UI_InstallTimer(1, print) ~= nil"), "true");
+}
+
+// A proxy never reaches a script without its metatable: pushing one opens its module.
+TEST_F(LifetimeAbuseTest, ProxiesPushedBeforeTheirModuleOpenIt) {
+    runLua(R"(
+        assert(zebInkwell == nil and zebSurfaceInterface == nil and zebcontrols == nil)
+        zebhost.canvas(8, 8, function(ink)
+            inkText = tostring(ink)
+            supplier = ink:GetSupplier()
+            local s = ink:GetSurface()
+            s:PaintRect(rect(0, 0, 8, 8), red)
+            local resources = require("zeblua.zebUIResources").getResources("app_resources")
+            image = resources:getImage(supplier, "zeblua_badge")
+        end)
+        view = newSubView()
+    )");
+    EXPECT_THAT(luaValue("inkText"), HasSubstr("zebInkwell("));
+    EXPECT_THAT(luaValue("tostring(supplier)"), HasSubstr("zebSupplierInterface("));
+    EXPECT_EQ(luaValue("image:GetWidth() > 0"), "true");
+    EXPECT_EQ(luaValue("type(getmetatable(image).__gc)"), "function");
+    EXPECT_EQ(luaValue("type(view:UI_GetNodeID())"), "string");
+    EXPECT_EQ(luaValue("type(zebcontrols)"), "table");
+    EXPECT_EQ(zebcore::debug::RecordedAssertReports().size(), 0u);
+}
+
+// Whatever a script does to a surface proxy's __gc inside the scope, the scope still ends
+// the record, and a light userdata of it never reads freed memory.
+TEST_F(LifetimeAbuseTest, SurfaceGcCalledOrRemovedLeavesTheScopeWhole) {
+    const char* const abuses[] = {
+        "s.__gc(s)",
+        "s:__gc(); s:__gc()",
+        "light.__gc(light)",
+        "getmetatable(s).__gc = nil",
+        "getmetatable(s).__gc = nil; s = nil; ink = nil; collectgarbage()",
+        "local gc = ink.__gc; getmetatable(ink).__gc = nil; gc(ink)",
+    };
+    for (const char* abuse : abuses) {
+        runLua(std::string("assert(drawOnCanvas(function(ink)\n"
+                           "  s = ink:GetSurface(); light = ink:GetSurface()\n") +
+               abuse +
+               "\nend))\n"
+               "s, ink = nil, nil\n"
+               "for i = 1, 3 do collectgarbage() end");
+        // The light value names a record that is gone, over a canvas now out of scope.
+        expectEnded("light:PaintRect(rect(0, 0, 4, 4), red)", kSurfaceEnded);
+        runLua("local registry = debug.getregistry()\n"
+               "registry['zeblua.zebSurfaceInterface'].__gc = function() end\n"
+               "registry['zeblua.zebInkwell'].__gc = registry['zeblua.zebInkwell'].Release");
+    }
+    EXPECT_TRUE(mCanvas.isClear(1, 1));
+
+    // Kept past the scope, by hand, again: nothing of the canvas is touched.
+    runLua("assert(drawOnCanvas(function(ink) kept = ink:GetSurface() end))\n"
+           "kept:__gc(); kept:__gc(); kept:Release()");
+    expectEnded("kept:PaintRect(rect(0, 0, 4, 4), red)", kSurfaceEnded);
+    EXPECT_TRUE(mCanvas.isClear(1, 1));
+}
+
+TEST_F(LifetimeAbuseTest, ExtraPopsCannotReachTheScopesSavedState) {
+    const struct {
+        const char* body;
+        int refusedPops;
+    } cases[] = {
+        {"s:PopStateStack()", 1},
+        {"s:PopStateStack(); light:PopStateStack()", 2},
+        {"s:PushStateStack(); s:PopStateStack(); light:PopStateStack()", 1},
+        {"s:PushStateStack(); s:PushStateStack()", 0},  // left for the scope to pop
+        {"s:PushStateStack(); s:Release()", 0},
+    };
+    for (const auto& c : cases) {
+        zebcore::debug::ClearRecordedAssertReports();
+        runLua(std::string("assert(drawOnCanvas(function(ink)\n"
+                           "  s = ink:GetSurface(); light = ink:GetSurface()\n") +
+               c.body + "\n  light:Transform({{1, 0, 5}, {0, 1, 5}, {0, 0, 1}})\nend))");
+        EXPECT_EQ(reportCount(kUnbalancedPop), c.refusedPops) << c.body;
+        zebcore::geom::MatrixT<float> matrix;
+        mCanvas.surface->GetTransform(matrix);
+        EXPECT_EQ(matrix(0, 2), 0.0f) << c.body << ": the scope's transform leaked";
+        // The hook's own pop took the hook's own state: the stack is empty again.
+        zebcore::debug::ClearRecordedAssertReports();
+        mCanvas.surface->PopStateStack();
+        EXPECT_EQ(reportCount(kUnbalancedPop), 1) << c.body << ": a state leaked past the scope";
+    }
+}
+
+// Ticks run on the main thread, so a coroutine that pushed the wrapper may die, be
+// collected, or stay suspended; a tick's errors and yields go nowhere.
+TEST_F(LifetimeAbuseTest, TimersSurviveTheirCoroutinesAndTheirOwnFaults) {
+    runLua(R"(
+        ticks, errors = 0, {}
+        local co = coroutine.create(function()
+            kept = newSubView()
+            local id = kept:UI_InstallTimer(0.01, function() end)
+            kept:UI_RemoveTimer(id)
+        end)
+        assert(coroutine.resume(co))
+        co = nil
+    )");
+    for (int i = 0; i < 3; ++i)
+        collectGarbage();
+    runLua(R"(
+        kept:UI_InstallTimer(0.01, function()
+            ticks = ticks + 1
+            local ok, message = pcall(coroutine.yield)
+            errors[#errors + 1] = message
+            if ticks == 2 then coroutine.yield() end
+            if ticks == 3 then error("boom") end
+        end)
+    )");
+    EventLoop::Get()->AdvanceTime(45);
+    EXPECT_EQ(luaValue("ticks"), "4");
+    EXPECT_THAT(luaValue("errors[1]"), HasSubstr(kYieldAcross));
+    EXPECT_EQ(luaValue("#errors"), "4");
+
+    // A timer whose wrapper lost its __gc still ends with the state, before any tick
+    // could reach the closed state.
+    const NodeP node(new zebui::ui::UI_SubView);
+    zeblua::ui::LuaControlWrapperFactory(node, L);
+    lua_setglobal(L, "w");
+    runLua("getmetatable(w).__gc = nil; w:UI_InstallTimer(0.01, function() end); w = nil");
+    collectGarbage();
+    lua_close(L);
+    L = nullptr;
+    EXPECT_EQ(node->GetReferenceCount(), 1);
+    EventLoop::Get()->AdvanceTime(50);
+}
+
+// Errors and yields in a draw scope and in the coverage hook end as Lua errors, and the
+// scope still closes.
+TEST_F(LifetimeAbuseTest, ErrorsAndYieldsInsideCallbacksAreCleanLuaErrors) {
+    const struct {
+        const char* code;
+        const char* error;
+    } cases[] = {
+        {"zebhost.canvas(4, 4, function(ink) kept = ink:GetSurface(); coroutine.yield() end)",
+         kYieldAcross},
+        {"zebhost.canvas(4, 4, function(ink) kept = ink:GetSurface(); error('drawn wrong') end)",
+         "drawn wrong"},
+        {"error(select(2, drawOnCanvas(function(ink) kept = ink:GetSurface();"
+         " coroutine.yield() end)))",
+         kYieldAcross},
+        {"setmetatable(coverage.hits, {__newindex = function() coroutine.yield() end})\n"
+         "coverage.start()\n"
+         "local x = 1\n",
+         kYieldAcross},
+        {"setmetatable(coverage.hits, {__newindex = function() error('no hits') end})\n"
+         "coverage.start()\n"
+         "local x = 1\n",
+         "no hits"},
+    };
+    runLua("require 'zeblua.debugSupport'; coverage = debugSupport.coverageSupport");
+    for (const auto& c : cases) {
+        runLua(std::string("co = coroutine.create(function()\n") + c.code +
+               "\nend)\n"
+               "ok, message = coroutine.resume(co)\n"
+               "setmetatable(coverage.hits, nil)");
+        EXPECT_EQ(luaValue("ok"), "false") << c.code;
+        EXPECT_THAT(luaValue("message"), HasSubstr(c.error)) << c.code;
+        EXPECT_EQ(luaValue("coroutine.status(co)"), "dead") << c.code;
+        if (luaValue("kept ~= nil") == "true")
+            expectEnded("kept:PaintRect(rect(0, 0, 1, 1), red)", kSurfaceEnded);
+        runLua("kept = nil");
+    }
+}
+
+}  // namespace
