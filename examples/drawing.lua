@@ -2,13 +2,13 @@
 -- the application's resources, an offscreen tile, and text measured to sit centred.
 -- Writes a PNG: zebhost examples/drawing.lua [out.png]   (default build/examples/drawing.png)
 
+-- Modules whose global tables the script uses; a proxy handed out (the supplier, the
+-- image) brings its own module along.
 require "zeblua.inkwell.zebInkwell"
 require "zeblua.inkwell.zebSurfaceInterface"
-require "zeblua.inkwell.zebSupplier"
 require "zeblua.inkwell.zebPathInterface"
 require "zeblua.inkwell.PenInterface"
 require "zeblua.inkwell.ShaderInterface"
-require "zeblua.inkwell.zebImageInterface"
 require "zeblua.zebUIResources"
 
 local output = arg[1] or "build/examples/drawing.png"
