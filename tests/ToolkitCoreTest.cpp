@@ -42,14 +42,20 @@ private:
     bool& mDestroyed;
 };
 
-// Logs its own virtual event handling and answers as told.
+// Logs its own virtual event handling and answers as told. Like every override it calls
+// the base first, where the node's hooks run, and handles only what they left.
 class LoggingNode : public UI_SubView {
 public:
     explicit LoggingNode(std::vector<std::string>& log) : mLog(log) {}
-    bool UI_DoPreMouseEvent(UI_Node*, const MouseEvent&) override { return log("pre virtual"); }
-    bool UI_DoMouseEvent(UI_Node*, const MouseEvent&) override { return log("mouse virtual"); }
-    bool UI_DoKeyboardEvent(UI_Node*, const KeyboardEvent&) override {
-        return log(UI_GetNodeID() + " key virtual");
+    bool UI_DoPreMouseEvent(UI_Node* target, const MouseEvent& event) override {
+        return UI_SubView::UI_DoPreMouseEvent(target, event) || log("pre virtual");
+    }
+    bool UI_DoMouseEvent(UI_Node* target, const MouseEvent& event) override {
+        return UI_SubView::UI_DoMouseEvent(target, event) || log("mouse virtual");
+    }
+    bool UI_DoKeyboardEvent(UI_Node* target, const KeyboardEvent& event) override {
+        return UI_SubView::UI_DoKeyboardEvent(target, event) ||
+               log(UI_GetNodeID() + " key virtual");
     }
     void UI_SizeChanged(const RectT<float>& rect) override {
         mLog.push_back("size virtual " + std::to_string(int(rect.width)));
@@ -389,7 +395,7 @@ TEST_F(ToolkitCoreTest, OnlyASizeChangeCallsSizeChangedAndItsListeners) {
     EXPECT_EQ(node->UI_GetRecommendedSize(nullptr), PointT<float>(50, 21));
 }
 
-TEST_F(ToolkitCoreTest, DrawingSkipsANodeWhoseHookDrewAndHiddenChildren) {
+TEST_F(ToolkitCoreTest, AHookThatDrewSkipsTheChildrenAndHiddenNodesAreNotDrawn) {
     std::vector<std::string> log;
     boost::intrusive_ptr<LoggingNode> root(new LoggingNode(log));
     root->UI_SetNodeID("root");
@@ -398,6 +404,9 @@ TEST_F(ToolkitCoreTest, DrawingSkipsANodeWhoseHookDrewAndHiddenChildren) {
         child->UI_SetNodeID(id);
         root->ChildPushBack(child);
     }
+    boost::intrusive_ptr<LoggingNode> grandchild(new LoggingNode(log));
+    grandchild->UI_SetNodeID("four");
+    root->ChildGet(2)->ChildPushBack(grandchild);
     root->ChildGet(1)->UI_Show(false);
     root->ChildGet(2)->UI_SetCustomDrawFunction(
         boost::make_shared<CustomDrawFunction>([&](const UI_Node* node, zebui::inkwell::Inkwell*) {
@@ -405,7 +414,14 @@ TEST_F(ToolkitCoreTest, DrawingSkipsANodeWhoseHookDrewAndHiddenChildren) {
             return true;
         }));
     root->DeliverDraw(nullptr);
-    EXPECT_EQ(log, (std::vector<std::string>{"root draw", "one draw", "three hook"}));
+    // The override logs before its base runs the hook; the hook drew, so "four" is not.
+    EXPECT_EQ(log, (std::vector<std::string>{"root draw", "one draw", "three draw", "three hook"}));
+    log.clear();
+    root->ChildGet(2)->UI_UpdateNow(~0u);  // draws at once, reaching the hook
+    EXPECT_EQ(log, (std::vector<std::string>{"three draw", "three hook"}));
+    log.clear();
+    root->ChildGet(1)->UI_UpdateNow(~0u);
+    EXPECT_TRUE(log.empty()) << "a hidden node is not drawn";
 }
 
 TEST_F(ToolkitCoreTest, InvalidationsAndUpdatesAreRecordedUntilCleared) {

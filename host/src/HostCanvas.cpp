@@ -16,26 +16,24 @@
 
 namespace zebhost {
 
-namespace {
-
 using zebui::inkwell::CairoSupplier;
 using zebui::inkwell::CairoSurface;
 
-enum class CanvasResult { kDrawn, kScriptFailed, kNotWritten };
-
-// The canvas's own supplier. Never destroyed: a script may keep a surface drawn over the
-// canvas (NewInkwell holds it) until its state closes.
-CairoSupplier& canvasSupplier() {
+CairoSupplier& CanvasSupplier() {
     static auto* sSupplier = new CairoSupplier;
     return *sSupplier;
 }
 
-bool writePNG(CairoSurface& surface, const char* path) {
+bool WritePNG(CairoSurface& surface, const char* path) {
     const std::filesystem::path folder = std::filesystem::path(path).parent_path();
     std::error_code ignored;
     if (!folder.empty()) std::filesystem::create_directories(folder, ignored);
     return surface.WritePNG(path);
 }
+
+namespace {
+
+enum class CanvasResult { kDrawn, kScriptFailed, kNotWritten };
 
 // The protected call in which the script draws: fn at 1, the Inkwell as a light userdata
 // at 2. The draw scope is made here, in a frame with no other C++ object, so a Lua memory
@@ -58,15 +56,15 @@ int drawInScope(lua_State* L) {
 // caller may raise; on kScriptFailed the script's error value is on top of the stack.
 CanvasResult paintCanvas(lua_State* L, int width, int height, const char* pngPath) {
     const boost::intrusive_ptr<CairoSurface> surface(
-        canvasSupplier().MakeOffscreenCairoSurface(width, height, false));
-    zebui::inkwell::Inkwell inkwell(&canvasSupplier(), surface.get());
+        CanvasSupplier().MakeOffscreenCairoSurface(width, height, false));
+    zebui::inkwell::Inkwell inkwell(&CanvasSupplier(), surface.get());
     surface->PushStateStack();
     surface->SetAntiAliasPolicy(zebui::inkwell::kAntiAliasPolicy_Med);
     lua_pushlightuserdata(L, &inkwell); /* drawInScope, fn, inkwell: no allocation */
     const int status = lua_pcall(L, 2, 0, 0);
     surface->PopStateStack();
     if (status != 0) return CanvasResult::kScriptFailed;
-    if (pngPath && !writePNG(*surface, pngPath)) return CanvasResult::kNotWritten;
+    if (pngPath && !WritePNG(*surface, pngPath)) return CanvasResult::kNotWritten;
     return CanvasResult::kDrawn;
 }
 

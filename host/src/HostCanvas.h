@@ -3,7 +3,21 @@
 
 struct lua_State;
 
+namespace zebui {
+namespace inkwell {
+class CairoSupplier;
+class CairoSurface;
+}  // namespace inkwell
+}  // namespace zebui
+
 namespace zebhost {
+
+// The supplier of the host's offscreen pictures. Never destroyed: a script may keep a
+// surface drawn over a picture (NewInkwell holds it) until its state closes.
+zebui::inkwell::CairoSupplier& CanvasSupplier();
+
+// Writes the pixels to path, making its missing folders; false when it cannot.
+bool WritePNG(zebui::inkwell::CairoSurface& surface, const char* path);
 
 // -- ok = zebhost.canvas(width, height, fn [, pngPath])
 // Makes a transparent offscreen surface of the headless back end and an Inkwell over it,

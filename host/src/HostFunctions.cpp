@@ -1,10 +1,15 @@
-// zebhost.now, zebhost.quit, zebhost.answer, zebhost.inputCodes and zebhost.canvas.
+// zebhost.now, zebhost.quit, zebhost.answer, zebhost.inputCodes and zebhost.canvas, then
+// the test harness's functions.
 #include "host/src/HostFunctions.h"
 
 #include <lua.hpp>
 
 #include "host/src/HostCanvas.h"
+#include "host/src/HostHarness.h"
 #include "host/src/HostInputCodes.h"
+#include "host/src/HostNodes.h"
+#include "host/src/HostPicture.h"
+#include "host/src/HostSnapshot.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/ui/EventLoop.h"
@@ -57,6 +62,10 @@ const luaL_Reg functions[] = {
 void OpenHostFunctions(lua_State* L) {
     zeblua::utility::RegisterFunctionModule(L, "zebhost", functions);
     lua_pop(L, 1);
+    OpenHostNodes(L);
+    OpenHostHarness(L);
+    OpenHostPicture(L);
+    OpenHostSnapshot(L);
 }
 
 }  // namespace zebhost

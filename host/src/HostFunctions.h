@@ -15,6 +15,9 @@ namespace zebhost {
 //   zebhost.inputCodes()                 -> the input constants (HostInputCodes.h), which
 //                                           the script layer publishes as zebhost.mouse etc.
 //   zebhost.canvas(w, h, fn [, pngPath]) -> true; fn(ink) draws (HostCanvas.h)
+// and the test harness: newNode (HostNodes.h); sendMouse, click, drag, sendKey, type,
+// assertReports, clearAssertReports (HostHarness.h); draw, compareImage (HostPicture.h);
+// snapshot (HostSnapshot.h).
 void OpenHostFunctions(lua_State* L);
 
 }  // namespace zebhost

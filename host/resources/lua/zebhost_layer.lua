@@ -118,3 +118,50 @@ function zeblua_CreateNewTransformMatrix(...)
   end
   return m
 end
+
+-- Checks for scripts that run as tests. A failed check raises an error that names the
+-- caller's file and line, so zebhost prints it and exits non-zero:
+--   zebhost.check(condition [, message])
+--   zebhost.checkEqual(actual, expected [, message])
+--   zebhost.checkImage(picture, goldenPath [, tolerance])   (zebhost.compareImage)
+-- Errors inside callbacks go nowhere (the toolkit drops them), so a check that fails in
+-- a callback is also remembered, and the harness call that ran the callback (sendMouse,
+-- click, drag, sendKey, type, draw) raises it again when it returns.
+local failureInCallback
+
+local function fail(message, level)
+  local info = debug.getinfo(level + 1, "Sl")
+  local where = info and (info.short_src .. ":" .. info.currentline .. ": ") or ""
+  local text = where .. "check failed: " .. message
+  failureInCallback = failureInCallback or text
+  error(text, 0)
+end
+
+function zebhost.check(condition, message)
+  if not condition then fail(message or "condition is false", 2) end
+  return condition
+end
+
+function zebhost.checkEqual(actual, expected, message)
+  if actual ~= expected then
+    fail(string.format("%s: expected %s, got %s", message or "values differ",
+      tostring(expected), tostring(actual)), 2)
+  end
+end
+
+function zebhost.checkImage(picture, goldenPath, tolerance)
+  local same, difference = zebhost.compareImage(picture, goldenPath, tolerance)
+  if not same then fail(difference, 2) end
+end
+
+for _, name in ipairs({ "sendMouse", "click", "drag", "sendKey", "type", "draw" }) do
+  local native = zebhost[name]
+  zebhost[name] = function(...)
+    failureInCallback = nil
+    local result = native(...)
+    local failure = failureInCallback
+    failureInCallback = nil
+    if failure then error(failure, 0) end
+    return result
+  end
+end

@@ -8,6 +8,11 @@
 #include <boost/function.hpp>
 
 #include "zebcore/debug/Debug.h"
+#include "zebcore/geom/MatrixT.h"
+#include "zebui/inkwell/Inkwell.h"
+#include "zebui/inkwell/PathInterface.h"
+#include "zebui/inkwell/SupplierInterface.h"
+#include "zebui/inkwell/SurfaceInterface.h"
 #include "zebui/ui/EventLoop.h"
 #include "zebui/ui/UI_NodeManager.h"
 
@@ -91,9 +96,19 @@ void UI_Node::UI_Invalidate(const geom::RectT<int>* rect, RedrawFlags flags) {
 void UI_Node::UI_UpdateNow(RedrawFlags flags) {
     ++mRedraw.updateNowCount;
     mRedraw.updateNowFlags = flags;
+    if (!mShown) return;
+    const auto keep = KeepNodeAlive(this);
+    inkwell::SupplierInterface* supplier = UI_NodeManager::Get(false)->GetDefaultSupplier();
+    const boost::intrusive_ptr<inkwell::SurfaceInterface> surface(supplier->MakeOffscreenSurface(
+        std::max(1, int(mLocalRect.width)), std::max(1, int(mLocalRect.height)), false));
+    if (!surface) return;
+    inkwell::Inkwell window(supplier, surface.get());
+    DeliverDraw(&window);
 }
 
 void UI_Node::UI_Draw(inkwell::Inkwell* inkwell) const {
+    const CustomDrawFunctionP hook = mDrawFunction;  // may replace itself while it runs
+    if (hook && !hook->empty() && (*hook)(this, inkwell)) return;
     // A copy, since a child's draw hook may change the list.
     const ChildList children(ChildBegin(), ChildEnd());
     for (const auto& child : children)
@@ -104,12 +119,12 @@ const inkwell::SupplierInterface* UI_Node::UI_GetDrawSupplier() const {
     return mParent ? mParent->UI_GetDrawSupplier() : nullptr;
 }
 
-bool UI_Node::UI_DoPreMouseEvent(UI_Node*, const MouseEvent&) {
-    return false;
+bool UI_Node::UI_DoPreMouseEvent(UI_Node* target, const MouseEvent& event) {
+    return callEventHook(mPreMouseEventFunction, target, event);
 }
 
-bool UI_Node::UI_DoMouseEvent(UI_Node*, const MouseEvent&) {
-    return false;
+bool UI_Node::UI_DoMouseEvent(UI_Node* target, const MouseEvent& event) {
+    return callEventHook(mMouseEventFunction, target, event);
 }
 
 bool UI_Node::UI_IsMouseOver(bool includeDescendants) const {
@@ -117,8 +132,8 @@ bool UI_Node::UI_IsMouseOver(bool includeDescendants) const {
     return over && (over == this || (includeDescendants && IsAncestorOf(over)));
 }
 
-bool UI_Node::UI_DoKeyboardEvent(UI_Node*, const KeyboardEvent&) {
-    return false;
+bool UI_Node::UI_DoKeyboardEvent(UI_Node* target, const KeyboardEvent& event) {
+    return callEventHook(mKeyboardEventFunction, target, event);
 }
 
 bool UI_Node::UI_GainKeyboardFocus(FocusChangeReason reason) {
@@ -211,7 +226,15 @@ geom::RectT<float> UI_Node::UI_GlobalToLocalF(const geom::RectT<float>& rect) co
 
 void UI_Node::UI_DispatchDrawToChild(const UI_Node* child, inkwell::Inkwell* inkwell) const {
     ZEB_ASSERT_MSG(!child || child->mParent == this, "UI_DispatchDrawToChild with a foreign node");
-    if (child) child->DeliverDraw(inkwell);
+    if (!child) return;
+    inkwell::SurfaceInterface* surface = inkwell ? inkwell->GetSurface() : nullptr;
+    if (surface) {
+        surface->PushStateStack();
+        surface->Transform(
+            geom::MatrixT<float>::Translation(child->mLocalRect.left, child->mLocalRect.top));
+    }
+    child->DeliverDraw(inkwell);
+    if (surface) surface->PopStateStack();
 }
 
 void UI_Node::UI_InstallTimer(float interval, int id) {
@@ -263,15 +286,12 @@ void UI_Node::InstallFocusChangedFunction(FocusChangedFunctionP function) {
 
 bool UI_Node::DeliverMouseEvent(UI_Node* target, const MouseEvent& event) {
     const auto keep = KeepNodeAlive(this);
-    return callEventHook(mPreMouseEventFunction, target, event) ||
-           UI_DoPreMouseEvent(target, event) || callEventHook(mMouseEventFunction, target, event) ||
-           UI_DoMouseEvent(target, event);
+    return UI_DoPreMouseEvent(target, event) || UI_DoMouseEvent(target, event);
 }
 
 bool UI_Node::DeliverKeyboardEvent(UI_Node* target, const KeyboardEvent& event) {
     const auto keep = KeepNodeAlive(this);
-    return callEventHook(mKeyboardEventFunction, target, event) ||
-           UI_DoKeyboardEvent(target, event);
+    return UI_DoKeyboardEvent(target, event);
 }
 
 bool UI_Node::DeliverCursor(const geom::PointT<float>& where, ModifierFlags modifiers) {
@@ -288,9 +308,17 @@ void UI_Node::DeliverFocusChange(FocusChangeReason reason) {
 
 void UI_Node::DeliverDraw(inkwell::Inkwell* inkwell) const {
     const auto keep = KeepNodeAlive(this);
-    const CustomDrawFunctionP hook = mDrawFunction;
-    if (hook && !hook->empty() && (*hook)(this, inkwell)) return;
+    inkwell::SurfaceInterface* surface = inkwell ? inkwell->GetSurface() : nullptr;
+    inkwell::SupplierInterface* supplier = inkwell ? inkwell->GetSupplier() : nullptr;
+    const boost::intrusive_ptr<inkwell::PathInterface> frame(
+        surface && supplier ? supplier->MakePath() : nullptr);
+    if (frame) {
+        frame->AddRect(geom::RectT<float>(geom::PointT<float>(0, 0), mLocalRect.GetSize()));
+        surface->PushStateStack();
+        surface->Clip(*frame, true);
+    }
     UI_Draw(inkwell);
+    if (frame) surface->PopStateStack();
 }
 
 }  // namespace ui

@@ -48,6 +48,12 @@ enum DrawCachePolicy : int {
 // Re-entrancy: every hook, listener and timer notification may drop the last outside
 // reference to the node, replace the very hook that is running, or change the tree.
 // The node keeps itself and the running function alive across each such call.
+//
+// Hooks and virtuals: the base virtuals (UI_DoPreMouseEvent, UI_DoMouseEvent,
+// UI_DoKeyboardEvent, UI_Draw, UI_SizeChanged) are where the installed hooks run, and
+// delivery calls only the virtuals. So whoever calls a virtual directly (a script's
+// UI_DoMouseEvent, UI_UpdateNow) reaches the hooks too. An override calls the base first
+// and gives up its own handling when the base took the event.
 class UI_Node : public zebcore::utility::RefCountedObject, public UI_Container, public ThemeClient {
 public:
     using RedrawFlags = zebcore::utility::Flags<unsigned int>;
@@ -78,16 +84,21 @@ public:
     virtual bool UI_IsShown() const;
     // rect in the node's own coordinates; null means all of the node.
     virtual void UI_Invalidate(const zebcore::geom::RectT<int>* rect, RedrawFlags flags);
+    // Records the request, then draws a shown node at once through DeliverDraw, onto
+    // pixels of the default supplier that stand in for its window's.
     virtual void UI_UpdateNow(RedrawFlags flags);
-    // Draws the shown children in order through UI_DispatchDrawToChild.
+    // The draw hook; unless it did the drawing, the shown children in order through
+    // UI_DispatchDrawToChild. inkwell may be null (nothing to draw on): the calls still
+    // happen, so a hook sees them.
     virtual void UI_Draw(inkwell::Inkwell* inkwell) const;
     // That of the node's window: the parent's, up to the top, which has none here.
     virtual const inkwell::SupplierInterface* UI_GetDrawSupplier() const;
-    // The node's own part of event handling, after its hooks; false: not taken.
+    // The pre-mouse hook and the mouse hook; false: not taken.
     virtual bool UI_DoPreMouseEvent(UI_Node* target, const MouseEvent& event);
     virtual bool UI_DoMouseEvent(UI_Node* target, const MouseEvent& event);
     // Whether the last mouse event went to this node, or with the flag to a descendant.
     virtual bool UI_IsMouseOver(bool includeDescendants) const;
+    // The keyboard hook; false: not taken.
     virtual bool UI_DoKeyboardEvent(UI_Node* target, const KeyboardEvent& event);
     // Asks the manager for the focus; a disabled node gets none.
     virtual bool UI_GainKeyboardFocus(FocusChangeReason reason);
@@ -138,7 +149,7 @@ public:
     zebcore::geom::PointT<float> UI_GlobalToLocalF(const zebcore::geom::PointT<float>& point) const;
     zebcore::geom::RectT<float> UI_GlobalToLocalF(const zebcore::geom::RectT<float>& rect) const;
 
-    // Drawing: the child's draw hook, then, unless the hook drew, the child's UI_Draw.
+    // Drawing: the child through DeliverDraw, its origin moved to the child's frame.
     void UI_DispatchDrawToChild(const UI_Node* child, inkwell::Inkwell* inkwell) const;
 
     // Timers. interval is in seconds (see EventLoop); a timer repeats until removed.
@@ -161,17 +172,18 @@ public:
     void UI_InstallSizeChangedNotifyFunction(SizeChangedNotifyFunctionP function);
     void InstallFocusChangedFunction(FocusChangedFunctionP function);
 
-    // What the node manager calls to hand the node an event: the hooks first, then the
-    // node's virtual operations; the first that takes the event ends the delivery.
-    // Mouse: pre-mouse hook, UI_DoPreMouseEvent, mouse hook, UI_DoMouseEvent.
+    // What the node manager calls to hand the node an event, with the node held alive.
+    // Mouse: UI_DoPreMouseEvent, then unless it took the event UI_DoMouseEvent.
     bool DeliverMouseEvent(UI_Node* target, const MouseEvent& event);
-    // Keyboard: keyboard hook, UI_DoKeyboardEvent.
+    // Keyboard: UI_DoKeyboardEvent.
     bool DeliverKeyboardEvent(UI_Node* target, const KeyboardEvent& event);
     // Cursor: the cursor hook alone.
     bool DeliverCursor(const zebcore::geom::PointT<float>& where, ModifierFlags modifiers);
     // Focus: the focus changed functions, gained or lost alike.
     void DeliverFocusChange(FocusChangeReason reason);
-    // Draw: the draw hook, then UI_Draw unless the hook drew.
+    // Draw: UI_Draw in the node's own coordinates (the inkwell's origin at the node's
+    // top-left corner), clipped to the node's size, with the surface's state saved around
+    // it. The draw pass of a tree starts here at its top.
     void DeliverDraw(inkwell::Inkwell* inkwell) const;
 
 private:

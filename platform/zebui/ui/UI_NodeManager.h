@@ -2,6 +2,8 @@
 // delivery of input events.
 #pragma once
 
+#include <boost/intrusive_ptr.hpp>
+
 #include "zebcore/geom/PointT.h"
 #include "zebui/ui/InputCodes.h"
 
@@ -19,8 +21,8 @@ class UI_Node;
 class MouseEvent;
 class KeyboardEvent;
 
-// Holds no node: the focus and the node under the mouse are plain pointers that a
-// dying node clears through NodeDestroyed.
+// Holds no node: the focus, the node under the mouse and the node that captured the
+// mouse are plain pointers that a dying node clears through NodeDestroyed.
 //
 // Delivery goes through Dispatch..., which is where an input capture and mouse event
 // filter nodes will see an event ahead of its target, and where modal windows will
@@ -46,9 +48,29 @@ public:
 
     // A mouse event for target, whose position is in the target's coordinates.
     bool DispatchMouseEvent(UI_Node* target, const MouseEvent& event);
+    // A mouse event at a point of root's tree, its position in global coordinates, as a
+    // pointer device sends it. The target is the node under the point (HitTest) or, from a
+    // down that a node took until the next up, that node (implicit capture). The event is
+    // offered to the target, then to each ancestor up to root, each in its own
+    // coordinates, until one takes it; a down that is taken gives the taker the keyboard
+    // focus (reason Mouse). Outside capture, a move or drag onto another node first gives
+    // the old node an exit and the new one an enter, and a move then asks the chain for
+    // the cursor. Returns the node that took the event, or null; held, since a handler may
+    // have taken it out of its tree.
+    boost::intrusive_ptr<UI_Node> DispatchMouseEventAt(UI_Node* root, const MouseEvent& event);
+    // The topmost shown, enabled node of root's tree under a global point: later children
+    // lie above earlier ones, and a child is only hit inside its parent's frame, as
+    // drawing clips it there. A hidden or disabled node hides its whole subtree from the
+    // pointer. Null outside root.
+    UI_Node* HitTest(UI_Node* root, const zebcore::geom::PointT<float>& global) const;
+    UI_Node* GetMouseCapture() const { return mCapture; }
     // A key event for target, or for the focused node when target is null. Offered to
-    // the target, then to each ancestor in turn, until one takes it.
-    bool DispatchKeyboardEvent(UI_Node* target, const KeyboardEvent& event);
+    // the target, then to each ancestor in turn, until one takes it; answers that node,
+    // or null. A tab key down that nobody takes moves the focus to the next shown, enabled
+    // node of the target's tree in depth-first order (the previous one with shift),
+    // wrapping around, with the reason TabForward or TabBackward, and answers that node.
+    boost::intrusive_ptr<UI_Node> DispatchKeyboardEvent(UI_Node* target,
+                                                        const KeyboardEvent& event);
     // Asks target to set the cursor for a pointer at where, in its coordinates.
     bool DispatchCursor(UI_Node* target, const zebcore::geom::PointT<float>& where,
                         ModifierFlags modifiers);
@@ -71,9 +93,15 @@ public:
 private:
     UI_NodeManager() = default;
 
+    boost::intrusive_ptr<UI_Node> offerAlongChain(UI_Node* root, UI_Node* target,
+                                                  const MouseEvent& global);
+    void moveMouseOver(UI_Node* node, const MouseEvent& global);
+    boost::intrusive_ptr<UI_Node> moveFocusByTab(UI_Node* from, bool backward);
+
     int mLastTimerID = 0;
     UI_Node* mFocus = nullptr;
     UI_Node* mMouseOver = nullptr;
+    UI_Node* mCapture = nullptr;
     inkwell::SupplierInterface* mDefaultSupplier = nullptr;
 };
 

@@ -1,0 +1,45 @@
+// zebhost.newNode: nodes of the toolkit's classes for scripts, and the wrapper push the
+// harness shares.
+#pragma once
+
+#include <boost/intrusive_ptr.hpp>
+
+struct lua_State;
+
+namespace zebui {
+namespace ui {
+class UI_Node;
+}  // namespace ui
+}  // namespace zebui
+
+namespace zebhost {
+
+// Adds to the global table zebhost:
+//   zebhost.newNode(className) -> a new node of that toolkit class ("UI_Node",
+//       "UI_SubView", "UI_Button", "UI_RadioGroup", "UI_Slider", "UI_ScrollBar",
+//       "UI_TabWell", ...) with its wrapper from the factory. Opens the controls module
+//       first, so the wrapper has its metatable. An unknown name raises an error that
+//       lists the known ones.
+void OpenHostNodes(lua_State* L);
+
+// Pushing a node's wrapper from a frame that holds C++ objects, in two steps:
+//   PrepareWrapperPush(L);                                   // may raise: nothing held yet
+//   const bool pushed = RunNative(L, "...", [&] {
+//       const boost::intrusive_ptr<UI_Node> node = ...;
+//       return FinishWrapperPush(L, node);                   // never raises
+//   });
+//   return pushed ? 1 : lua_error(L);                        // raised with nothing held
+// Prepare reserves the stack and pushes the protected pusher; Finish replaces it with a
+// new wrapper of node from the factory (nil for null), or with the error message of a
+// failed push, and answers whether it worked.
+void PrepareWrapperPush(lua_State* L);
+bool FinishWrapperPush(lua_State* L, const boost::intrusive_ptr<zebui::ui::UI_Node>& node);
+
+// The node of the wrapper at index: "Bad user data" for anything but a wrapper, an
+// argument error for a released one.
+zebui::ui::UI_Node* CheckNodeArgument(lua_State* L, int index);
+
+// The toolkit class of node, without namespaces ("UI_Slider"), into a buffer of size.
+void NodeClassName(const zebui::ui::UI_Node& node, char* buffer, unsigned long size);
+
+}  // namespace zebhost
