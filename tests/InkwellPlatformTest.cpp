@@ -18,6 +18,7 @@
 #include "zebui/inkwell/PenP.h"
 #include "zebui/inkwell/ShaderInterface.h"
 #include "zebui/inkwell/SurfaceP.h"
+#include "zebui/inkwell/cairo/CairoLimits.h"
 #include "zebui/inkwell/cairo/CairoPath.h"
 #include "zebui/inkwell/cairo/CairoSupplier.h"
 #include "zebui/inkwell/cairo/CairoSurface.h"
@@ -75,6 +76,14 @@ protected:
                     break;
                 }
         return columns;
+    }
+
+    static int inkedPixels(CairoSurface& target) {
+        int count = 0;
+        for (int y = 0; y < target.Height(); ++y)
+            for (int x = 0; x < target.Width(); ++x)
+                if (target.ReadPixel(x, y)[3] > 0) ++count;
+        return count;
     }
 
     static std::vector<std::string> reportMessages() {
@@ -349,6 +358,106 @@ TEST_F(InkwellPlatformTest, HostileValuesNeverEndTheSurface) {
 
     target->PaintRect(kBlue, RectT<float>(0, 0, 10, 10));
     EXPECT_EQ(target->ReadPixel(5, 2), kBluePixel);
+}
+
+// A source rectangle reaching past the image used to sample memory beyond its pixels. Only
+// its part inside the image is drawn, onto the part of the destination it maps to.
+TEST_F(InkwellPlatformTest, DrawImage2ClipsTheSourceRectangleToTheImage) {
+    auto red = surface(4, 4);
+    red->PaintRect(kRed, RectT<float>(0, 0, 4, 4));
+    const auto image = red->GetSurfaceImage();
+    auto target = surface(10, 10);
+    const RectT<float> farAway(1e6f, 1e6f, 8, 8);
+    target->DrawImage2(nullptr, *image, RectT<float>(0, 0, 8, 8), &farAway, 1.0f);
+    EXPECT_EQ(inkedPixels(*target), 0);
+    // (2, 2, 4, 4) at scale 2: its inside half, (2, 2, 2, 2), lands on (0, 0, 4, 4).
+    const RectT<float> overTheEdge(2, 2, 4, 4);
+    target->DrawImage2(nullptr, *image, RectT<float>(0, 0, 8, 8), &overTheEdge, 1.0f);
+    EXPECT_EQ(target->ReadPixel(3, 3), kRedPixel);
+    EXPECT_EQ(target->ReadPixel(4, 4), kClear);
+    // Before the image's origin: (-2, -2, 4, 4) keeps (0, 0, 2, 2), drawn at (2, 2).
+    auto shifted = surface(10, 10);
+    const RectT<float> beforeTheOrigin(-2, -2, 4, 4);
+    shifted->DrawImage2(nullptr, *image, RectT<float>(0, 0, 4, 4), &beforeTheOrigin, 1.0f);
+    EXPECT_EQ(shifted->ReadPixel(1, 1), kClear);
+    EXPECT_EQ(shifted->ReadPixel(2, 2), kRedPixel);
+    EXPECT_EQ(shifted->ReadPixel(3, 3), kRedPixel);
+    EXPECT_EQ(shifted->ReadPixel(4, 4), kClear);
+    EXPECT_TRUE(reportMessages().empty());
+}
+
+// Cairo aborts on a NaN angle, hangs on an infinite radius or width and takes minutes over
+// a huge sweep. Non-finite geometry is reported and draws nothing; a sweep of many turns
+// draws one; absurd sizes, lengths and int rectangles are narrowed before Cairo or int
+// arithmetic sees them.
+TEST_F(InkwellPlatformTest, NonFiniteGeometryIsReportedAndDrawsNothing) {
+    const float inf = std::numeric_limits<float>::infinity();
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    auto target = surface(10, 10);
+    auto fill = brush(kRed);
+    const std::vector<std::pair<float, float>> badArcs = {{nan, 0}, {0, nan}, {inf, 0}};
+    for (const auto& [radius, angle] : badArcs) {
+        auto arc = path();
+        arc->AddArc(PointT<float>(5, 5), radius, angle, 90);
+        target->FillPath(*fill, *arc, true);
+        target->StrokePath(*pen(kRed, 2), *arc);
+        target->Clip(*arc, true);
+    }
+    target->PaintRect(kRed, RectT<float>(0, nan, 10, 10));
+    auto line = path();
+    line->MoveTo(PointT<float>(0, 5));
+    line->LineTo(PointT<float>(10, 5));
+    target->StrokePath(*pen(kRed, inf), *line);
+    target->StrokePath(*pen(kRed, nan), *line);
+    const ColorRGBA colours[] = {kRed, kBlue};
+    const float stops[] = {0, nan};
+    boost::intrusive_ptr<ShaderInterface> badStops(
+        mSupplier.MakeLinearShader(PointT<float>(0, 0), PointT<float>(10, 0), colours, stops, 2));
+    target->ShadePath(*badStops, *line, true);
+    EXPECT_EQ(inkedPixels(*target), 0);
+    EXPECT_EQ(reportMessages().size(), 13u);
+    EXPECT_EQ(target->GetClipBounds(), RectT<int>(0, 0, 10, 10));  // no clip was taken
+
+    // A billion degrees is one turn, drawn at once; a huge radius covers the surface.
+    auto circle = path();
+    circle->AddArc(PointT<float>(5, 5), 4, 0, 1e9f);
+    target->FillPath(*fill, *circle, true);
+    EXPECT_EQ(target->ReadPixel(5, 5), kRedPixel);
+    EXPECT_EQ(target->ReadPixel(0, 0), kClear);
+    auto huge = path();
+    huge->AddArc(PointT<float>(5, 5), 1e30f, 0, 360);
+    auto covered = surface(10, 10);
+    covered->FillPath(*fill, *huge, true);
+    EXPECT_EQ(covered->ReadPixel(0, 0), kRedPixel);
+
+    // Text past the longest drawn length measures as that length does.
+    const zebcore::UTF16String longest(kLongestText, u'x');
+    auto text = font(10);
+    EXPECT_EQ(text->MeasureText(longest + u"xxxx", -1), text->MeasureText(longest, -1));
+
+    // int rectangles that end beyond the int range, and surfaces beyond the pixel limit.
+    const int top = std::numeric_limits<int>::max() - 1;
+    EXPECT_FALSE(target->IsWithinClipBounds(RectT<int>(top, 0, 10, 10)));
+    const RectT<int> beyond(top, top, 10, 10);
+    boost::intrusive_ptr<CairoSurface> part(
+        mSupplier.MakeCairoSurface(target.get(), false, &beyond));
+    EXPECT_EQ(part->Width(), 0);
+    zebcore::debug::ClearRecordedAssertReports();
+    EXPECT_FALSE(surface(16384, 16384));
+    EXPECT_TRUE(surface(32767, 2));
+    EXPECT_EQ(reportMessages(),
+              std::vector<std::string>{"offscreen surface larger than the image limit"});
+}
+
+// The size is read from the PNG header: a small file that would decode to gigabytes is
+// refused with a report before any decoding.
+TEST_F(InkwellPlatformTest, APngLargerThanTheImageLimitIsRefusedFromItsHeader) {
+    std::vector<unsigned char> bytes = {0x89, 'P', 'N',  'G',  '\r', '\n', 0x1a, '\n', 0,    0,
+                                        0,    13,  'I',  'H',  'D',  'R',  0,    0,    0x4e, 0x20,
+                                        0,    0,   0x4e, 0x20, 8,    6,    0,    0,    0};
+    EXPECT_FALSE(mSupplier.MakeImageFromPNG(bytes.data(), bytes.size()));
+    EXPECT_EQ(reportMessages(),
+              std::vector<std::string>{"PNG image larger than the decoded image limit"});
 }
 
 TEST_F(InkwellPlatformTest, AntiAliasPolicyTakesOnlyItsThreeValues) {

@@ -3,10 +3,12 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
 #include <boost/intrusive_ptr.hpp>
+#include <gmock/gmock.h>
 #include <lua.hpp>
 
 #include "tests/DrawingTestFixture.h"
@@ -28,10 +30,12 @@
 #include "zebui/ui/UI_NodeManager.h"
 #include "zebui/utility/Cursor.h"
 #include "zebui/utility/InkwellImageResourceCache.h"
+#include "zebui/utility/ResourceManager.h"
 
 namespace {
 
 namespace fs = std::filesystem;
+using ::testing::HasSubstr;
 using uit::ImageProvider;
 using zebui::controls::UI_PictureSupplyMessage;
 using zebui::utility::DisplayedCursor;
@@ -312,6 +316,33 @@ TEST_F(UIResourcesTest, AnImageResourceThatCannotBeHadIsNullNotAnError) {
                              zebui::utility::kImageFileType_PNG);
     EXPECT_EQ(image, ImageProvider::GetImageResource("marker"));
     EXPECT_EQ(zebcore::debug::RecordedAssertReports().size(), 0u);
+}
+
+// A resource file is read whole and a PNG decodes to far more than its bytes, so both are
+// refused above their limits, with a report, before anything is read or decoded. The large
+// file is sparse: it takes no disk space.
+TEST_F(UIResourcesTest, ResourcesAndImagesAboveTheirLimitsAreRefusedWithAReport) {
+    const fs::path huge = mRoot / "png" / "huge.png";
+    std::ofstream(huge, std::ios::binary).put('\0');
+    fs::resize_file(huge, zebui::utility::kLargestResourceBytes + 1);
+    // A PNG header that claims 20000 x 20000 pixels, 1.6 GB once decoded.
+    std::ofstream(mRoot / "png" / "bomb.png", std::ios::binary)
+        << std::string("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\x4e\x20\0\0\x4e\x20\x08\x06\0\0\0", 29);
+    runLua("res = zebUIResources.getResources(zebUIResources.app_resources)");
+    EXPECT_THAT(luaError("res:getImage(supplier, 'huge')"), HasSubstr("image 'huge' not found"));
+    EXPECT_THAT(luaError("res:getImage(supplier, 'bomb')"), HasSubstr("image 'bomb' not found"));
+    std::vector<std::string> messages;
+    for (const auto& report : zebcore::debug::RecordedAssertReports())
+        messages.push_back(report.message);
+    EXPECT_EQ(messages,
+              (std::vector<std::string>{"resource file larger than the resource limit",
+                                        "PNG image larger than the decoded image limit"}));
+    // Exactly at the limit is still read.
+    fs::resize_file(huge, zebui::utility::kLargestResourceBytes);
+    std::vector<unsigned char> bytes;
+    EXPECT_TRUE(vex::app::App::GetApp()->GetAppResourceManager()->LoadResourceBytes(u"huge", u"png",
+                                                                                    bytes));
+    EXPECT_EQ(bytes.size(), zebui::utility::kLargestResourceBytes);
 }
 
 }  // namespace

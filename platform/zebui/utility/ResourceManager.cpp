@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
+#include "zebcore/debug/Debug.h"
 #include "zebcore/filesupport/CommonDirs.h"
 #include "zebui/utility/Cursor.h"
 
@@ -51,9 +51,18 @@ bool ResourceManager::LoadResourceBytes(const zebcore::UTF16String& name,
     bytes.clear();
     const std::string path = FindResourcePath(name, type);
     if (path.empty()) return false;
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error) return false;
+    const bool allowed = size <= kLargestResourceBytes;
+    ZEB_ASSERT_MSG(allowed, "resource file larger than the resource limit");
+    if (!allowed) return false;
     std::ifstream in(path, std::ios::binary);
-    bytes.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    return true;
+    bytes.resize(static_cast<std::size_t>(size));
+    in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
+    // A file that changed under us keeps what was read; one that cannot be read is none.
+    bytes.resize(static_cast<std::size_t>(in.gcount()));
+    return !in.bad();
 }
 
 bool ResourceManager::ResourceExists(const zebcore::UTF16String& name,

@@ -1,12 +1,16 @@
 // Named, typed resources backed by folders of real files.
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "zebcore/filesupport/Dir.h"
 
 namespace zebui {
 namespace utility {
+
+// A resource file is read whole, so a larger one is refused with a report.
+constexpr std::uintmax_t kLargestResourceBytes = std::uintmax_t(64) << 20;
 
 // A resource (name, type) is the file <folder>/<type>/<name>.<type>, or failing
 // that <folder>/<type>/<name>. Added folders are searched first, newest first;
@@ -21,7 +25,8 @@ public:
     explicit ResourceManager(const char16_t* subFolder);
     virtual ~ResourceManager() = default;
 
-    // Fills bytes with the whole resource; false (bytes cleared) when there is none.
+    // Fills bytes with the whole resource; false (bytes cleared) when there is none, or when
+    // it is larger than kLargestResourceBytes (reported) or cannot be read.
     virtual bool LoadResourceBytes(const zebcore::UTF16String& name,
                                    const zebcore::UTF16String& type,
                                    std::vector<unsigned char>& bytes) const;

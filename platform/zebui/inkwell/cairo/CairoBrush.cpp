@@ -1,7 +1,7 @@
 // A brush of one solid colour.
 #include "zebui/inkwell/cairo/CairoBrush.h"
 
-#include <cairo.h>
+#include "zebui/inkwell/cairo/CairoLimits.h"
 
 namespace zebui {
 namespace inkwell {
@@ -13,7 +13,7 @@ ColorRGBA CairoBrush::GetColor() const {
 }
 
 void CairoBrush::Apply(cairo_t* context) const {
-    cairo_set_source_rgba(context, mColour.red, mColour.green, mColour.blue, mColour.alpha);
+    SetSourceColour(context, mColour);
 }
 
 }  // namespace inkwell

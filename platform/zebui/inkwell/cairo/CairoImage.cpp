@@ -3,7 +3,11 @@
 
 #include <cairo.h>
 
+#include <cstdint>
 #include <cstring>
+
+#include "zebcore/debug/Debug.h"
+#include "zebui/inkwell/cairo/CairoLimits.h"
 
 namespace zebui {
 namespace inkwell {
@@ -38,6 +42,28 @@ cairo_surface_t* asARGB32(cairo_surface_t* decoded) {
     return converted;
 }
 
+// A PNG opens with its 8-byte signature and the IHDR chunk, whose data starts with the
+// width and the height as big-endian 32-bit numbers.
+constexpr unsigned char kSignature[8] = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1a, '\n'};
+constexpr std::size_t kHeaderSize = 24;
+
+std::uint32_t bigEndian32(const unsigned char* bytes) {
+    return (std::uint32_t(bytes[0]) << 24) | (std::uint32_t(bytes[1]) << 16) |
+           (std::uint32_t(bytes[2]) << 8) | std::uint32_t(bytes[3]);
+}
+
+// A small file may decode to gigabytes: the size is read from the header and refused,
+// with a report, before anything is decoded. Bytes that are no PNG are left to the decoder.
+bool sizeAllowed(const unsigned char* bytes, std::size_t size) {
+    if (size < kHeaderSize || std::memcmp(bytes, kSignature, sizeof kSignature) != 0 ||
+        std::memcmp(bytes + 12, "IHDR", 4) != 0)
+        return true;
+    const bool allowed =
+        ImageSizeAllowed(bigEndian32(bytes + 16), bigEndian32(bytes + 20), kLargestImageSide);
+    ZEB_ASSERT_MSG(allowed, "PNG image larger than the decoded image limit");
+    return allowed;
+}
+
 }  // namespace
 
 CairoImage::CairoImage(cairo_surface_t* pixels) : mPixels(pixels) {}
@@ -47,6 +73,7 @@ CairoImage::~CairoImage() {
 }
 
 CairoImage* CairoImage::FromPNG(const unsigned char* bytes, std::size_t size) {
+    if (!sizeAllowed(bytes, size)) return nullptr;
     ByteReader reader{bytes, size};
     cairo_surface_t* decoded = cairo_image_surface_create_from_png_stream(readBytes, &reader);
     if (cairo_surface_status(decoded) != CAIRO_STATUS_SUCCESS) {

@@ -3,35 +3,42 @@
 
 #include <cairo.h>
 
+#include <algorithm>
 #include <cmath>
 
+#include "zebui/inkwell/cairo/CairoLimits.h"
 #include "zebui/inkwell/cairo/CallLogFormat.h"
 
 namespace zebui {
 namespace inkwell {
 
+void CairoPath::append(const Step& step, int count) {
+    for (int i = 0; i < count; ++i)
+        mFinite = mFinite && std::isfinite(step.v[i]);
+    mSteps.push_back(step);
+}
+
 void CairoPath::MoveTo(const zebcore::geom::PointT<float>& point) {
-    mSteps.push_back({Op::kMoveTo, {point.x, point.y}});
+    append({Op::kMoveTo, {point.x, point.y}}, 2);
 }
 
 void CairoPath::LineTo(const zebcore::geom::PointT<float>& point) {
-    mSteps.push_back({Op::kLineTo, {point.x, point.y}});
+    append({Op::kLineTo, {point.x, point.y}}, 2);
 }
 
 void CairoPath::BezierTo(const zebcore::geom::PointT<float>& control1,
                          const zebcore::geom::PointT<float>& control2,
                          const zebcore::geom::PointT<float>& end) {
-    mSteps.push_back(
-        {Op::kBezierTo, {control1.x, control1.y, control2.x, control2.y, end.x, end.y}});
+    append({Op::kBezierTo, {control1.x, control1.y, control2.x, control2.y, end.x, end.y}}, 6);
 }
 
 void CairoPath::AddRect(const zebcore::geom::RectT<float>& rect) {
-    mSteps.push_back({Op::kRect, {rect.left, rect.top, rect.width, rect.height}});
+    append({Op::kRect, {rect.left, rect.top, rect.width, rect.height}}, 4);
 }
 
 void CairoPath::AddArc(const zebcore::geom::PointT<float>& centre, float radius, float firstAngle,
                        float secondAngle) {
-    mSteps.push_back({Op::kArc, {centre.x, centre.y, radius, firstAngle, secondAngle}});
+    append({Op::kArc, {centre.x, centre.y, radius, firstAngle, secondAngle}}, 5);
 }
 
 void CairoPath::ClosePath() {
@@ -63,16 +70,23 @@ void CairoPath::Replay(cairo_t* context) const {
             cairo_rectangle(context, v[0], v[1], v[2], v[3]);
             subpathOpen = false;
             break;
-        case Op::kArc:
+        case Op::kArc: {
             if (!subpathOpen) cairo_new_sub_path(context);
-            if (v[4] >= v[3])
-                cairo_arc(context, v[0], v[1], v[2], v[3] * kRadiansPerDegree,
-                          v[4] * kRadiansPerDegree);
+            // Cairo takes a sweep of many turns one turn at a time, and a huge angle in
+            // steps that no longer change it; the start is brought near zero so that the
+            // sweep keeps its precision.
+            const double sweep = std::clamp(double(v[4]) - v[3], -360.0, 360.0);
+            const double first = std::fmod(double(v[3]), 360.0);
+            const double radius = std::min(double(v[2]), kLargestRadius);
+            if (sweep >= 0.0)
+                cairo_arc(context, v[0], v[1], radius, first * kRadiansPerDegree,
+                          (first + sweep) * kRadiansPerDegree);
             else
-                cairo_arc_negative(context, v[0], v[1], v[2], v[3] * kRadiansPerDegree,
-                                   v[4] * kRadiansPerDegree);
+                cairo_arc_negative(context, v[0], v[1], radius, first * kRadiansPerDegree,
+                                   (first + sweep) * kRadiansPerDegree);
             subpathOpen = true;
             break;
+        }
         case Op::kClose:
             cairo_close_path(context);
             subpathOpen = false;

@@ -24,7 +24,11 @@ public:
                 float secondAngle) override;
     void ClosePath() override;
 
-    // Replaces the context's current path by this one.
+    // Whether every recorded number is finite. Surfaces refuse a path that is not, since
+    // Cairo cannot take a NaN or infinite coordinate, radius or angle.
+    bool IsFinite() const { return mFinite; }
+    // Replaces the context's current path by this one. An arc sweeps at most one full turn
+    // and its radius is at most kLargestRadius.
     void Replay(cairo_t* context) const;
     // The operations in order, for call logs: "[M(0,0) L(4,0) Z]".
     std::string Describe() const;
@@ -36,7 +40,10 @@ private:
         float v[6];
     };
 
+    void append(const Step& step, int count);
+
     std::vector<Step> mSteps;
+    bool mFinite = true;
 };
 
 }  // namespace inkwell

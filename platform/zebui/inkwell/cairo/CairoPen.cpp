@@ -3,8 +3,10 @@
 
 #include <cairo.h>
 
+#include <algorithm>
 #include <cmath>
 
+#include "zebui/inkwell/cairo/CairoLimits.h"
 #include "zebui/inkwell/cairo/CallLogFormat.h"
 
 namespace zebui {
@@ -81,9 +83,10 @@ void CairoPen::SetDashPattern(const float* dashes, int count) {
 }
 
 void CairoPen::Apply(cairo_t* context) const {
-    cairo_set_source_rgba(context, mColour.red, mColour.green, mColour.blue, mColour.alpha);
-    // A negative width would put the context into an error state.
-    cairo_set_line_width(context, mWidth > 0.0f ? mWidth : 0.0);
+    SetSourceColour(context, mColour);
+    // A negative width would put the context into an error state, and an infinite one
+    // would keep Cairo's stroker building the pen for ever.
+    cairo_set_line_width(context, mWidth > 0.0f ? std::min<double>(mWidth, kLargestPenWidth) : 0.0);
     cairo_set_miter_limit(context, mMiterLimit);
     cairo_set_line_join(context, cairoJoin(mJoin));
     cairo_set_line_cap(context, cairoCap(mCap));

@@ -6,15 +6,18 @@
 #include <cmath>
 #include <utility>
 
+#include "zebui/inkwell/cairo/CairoLimits.h"
 #include "zebui/inkwell/cairo/CallLogFormat.h"
 
 namespace zebui {
 namespace inkwell {
 namespace {
 
+// A non-finite colour channel counts as 0, as for solid colours.
 void addStop(cairo_pattern_t* pattern, float offset, const ColorRGBA& colour) {
-    cairo_pattern_add_color_stop_rgba(pattern, offset, colour.red, colour.green, colour.blue,
-                                      colour.alpha);
+    auto channel = [](float value) { return std::isfinite(value) ? value : 0.0; };
+    cairo_pattern_add_color_stop_rgba(pattern, offset, channel(colour.red), channel(colour.green),
+                                      channel(colour.blue), channel(colour.alpha));
 }
 
 }  // namespace
@@ -24,12 +27,14 @@ CairoShader* CairoShader::MakeLinear(const zebcore::geom::PointT<float>& point1,
                                      const ColorRGBA* colours, const float* stops, int count) {
     cairo_pattern_t* pattern = cairo_pattern_create_linear(point1.x, point1.y, point2.x, point2.y);
     std::string description = "linear(" + FormatPoint(point1) + "," + FormatPoint(point2);
+    bool finite = AllFinite({point1.x, point1.y, point2.x, point2.y});
     for (int i = 0; i < count; ++i) {
+        finite = finite && std::isfinite(stops[i]);
         addStop(pattern, stops[i], colours[i]);
         description += "," + FormatNumber(stops[i]) + ":" + FormatColour(colours[i]);
     }
     cairo_pattern_set_extend(pattern, CAIRO_EXTEND_PAD);
-    return new CairoShader(pattern, description + ")");
+    return new CairoShader(pattern, description + ")", finite);
 }
 
 CairoShader* CairoShader::MakeRadial(const zebcore::geom::PointT<float>& point1,
@@ -41,13 +46,14 @@ CairoShader* CairoShader::MakeRadial(const zebcore::geom::PointT<float>& point1,
     addStop(pattern, 0.0f, colour1);
     addStop(pattern, 1.0f, colour2);
     cairo_pattern_set_extend(pattern, CAIRO_EXTEND_PAD);
-    return new CairoShader(pattern, "radial(" + FormatPoint(point1) + "," + FormatPoint(point2) +
-                                        "," + FormatColour(colour1) + "," + FormatColour(colour2) +
-                                        ")");
+    return new CairoShader(pattern,
+                           "radial(" + FormatPoint(point1) + "," + FormatPoint(point2) + "," +
+                               FormatColour(colour1) + "," + FormatColour(colour2) + ")",
+                           AllFinite({point1.x, point1.y, radius}));
 }
 
-CairoShader::CairoShader(cairo_pattern_t* pattern, std::string description)
-    : mPattern(pattern), mDescription(std::move(description)) {}
+CairoShader::CairoShader(cairo_pattern_t* pattern, std::string description, bool finite)
+    : mPattern(pattern), mDescription(std::move(description)), mFinite(finite) {}
 
 CairoShader::~CairoShader() {
     cairo_pattern_destroy(mPattern);

@@ -24,13 +24,17 @@ public:
     ~CairoShader() override;
 
     cairo_pattern_t* Pattern() const { return mPattern; }
+    // False when a point, the radius or a stop is NaN or infinite: surfaces refuse to shade
+    // with such a shader.
+    bool IsFinite() const { return mFinite; }
     const std::string& Describe() const { return mDescription; }
 
 private:
-    CairoShader(cairo_pattern_t* pattern, std::string description);
+    CairoShader(cairo_pattern_t* pattern, std::string description, bool finite);
 
     cairo_pattern_t* mPattern;
     std::string mDescription;
+    bool mFinite;
 };
 
 }  // namespace inkwell

@@ -9,6 +9,7 @@
 #include "zebui/inkwell/cairo/CairoBrush.h"
 #include "zebui/inkwell/cairo/CairoFont.h"
 #include "zebui/inkwell/cairo/CairoImage.h"
+#include "zebui/inkwell/cairo/CairoLimits.h"
 #include "zebui/inkwell/cairo/CairoPath.h"
 #include "zebui/inkwell/cairo/CairoPen.h"
 #include "zebui/inkwell/cairo/CairoShader.h"
@@ -41,12 +42,17 @@ CairoSurface* CairoSupplier::MakeCairoSurface(SurfaceInterface* parent, bool inh
     const zebcore::geom::RectT<int>& outer = cairoParent->Area();
     zebcore::geom::RectT<int> area = outer;
     if (rect) {
-        const int left = std::max(outer.left, outer.left + rect->left);
-        const int top = std::max(outer.top, outer.top + rect->top);
-        const int right = std::min(outer.Right(), outer.left + rect->Right());
-        const int bottom = std::min(outer.Bottom(), outer.top + rect->Bottom());
-        area = zebcore::geom::RectT<int>(left, top, std::max(right - left, 0),
-                                         std::max(bottom - top, 0));
+        // In long long: a script's rectangle may reach beyond the int range.
+        using Wide = long long;
+        const Wide left = std::max<Wide>(outer.left, Wide(outer.left) + rect->left);
+        const Wide top = std::max<Wide>(outer.top, Wide(outer.top) + rect->top);
+        const Wide right =
+            std::min<Wide>(outer.Right(), Wide(outer.left) + rect->left + rect->width);
+        const Wide bottom =
+            std::min<Wide>(outer.Bottom(), Wide(outer.top) + rect->top + rect->height);
+        area = zebcore::geom::RectT<int>(
+            int(std::min(left, Wide(outer.Right()))), int(std::min(top, Wide(outer.Bottom()))),
+            int(std::max<Wide>(right - left, 0)), int(std::max<Wide>(bottom - top, 0)));
     }
     // Surfaces hand their supplier back as the toolkit's non-const pointer; nothing here
     // has state to change.
@@ -61,6 +67,10 @@ SurfaceInterface* CairoSupplier::MakeOffscreenSurface(int width, int height, boo
 
 CairoSurface* CairoSupplier::MakeOffscreenCairoSurface(int width, int height, bool opaque) const {
     if (width <= 0 || height <= 0) return nullptr;
+    // Cairo's own limit is 32767 a side, which would still let a script ask for 4 GiB.
+    const bool allowed = ImageSizeAllowed(width, height, 32767);
+    ZEB_ASSERT_MSG(allowed, "offscreen surface larger than the image limit");
+    if (!allowed) return nullptr;
     cairo_surface_t* pixels = cairo_image_surface_create(
         opaque ? CAIRO_FORMAT_RGB24 : CAIRO_FORMAT_ARGB32, width, height);
     CairoSurface* surface = nullptr;

@@ -12,6 +12,7 @@
 #include "zebui/inkwell/cairo/CairoBrush.h"
 #include "zebui/inkwell/cairo/CairoFont.h"
 #include "zebui/inkwell/cairo/CairoImage.h"
+#include "zebui/inkwell/cairo/CairoLimits.h"
 #include "zebui/inkwell/cairo/CairoMatrix.h"
 #include "zebui/inkwell/cairo/CairoPath.h"
 #include "zebui/inkwell/cairo/CairoPen.h"
@@ -34,8 +35,33 @@ cairo_fill_rule_t fillRule(bool windingFill) {
     return windingFill ? CAIRO_FILL_RULE_WINDING : CAIRO_FILL_RULE_EVEN_ODD;
 }
 
-double clampOpacity(float opacity) {
-    return std::clamp(static_cast<double>(opacity), 0.0, 1.0);
+// A path with a NaN or infinite number is reported and not used: Cairo cannot take it.
+bool usablePath(const CairoPath& path) {
+    ZEB_ASSERT_MSG(path.IsFinite(), "path with a non-finite coordinate, radius or angle");
+    return path.IsFinite();
+}
+
+// The part of the image that the source rectangle covers, and the part of the destination
+// that this part maps to at the rectangle pair's scale. False when nothing is left.
+bool clipSourceToImage(const ImageInterface& image, zebcore::geom::RectT<float>& source,
+                       zebcore::geom::RectT<float>& dest) {
+    const double scaleX = static_cast<double>(dest.width) / source.width;
+    const double scaleY = static_cast<double>(dest.height) / source.height;
+    const double left = std::max(0.0, static_cast<double>(source.left));
+    const double top = std::max(0.0, static_cast<double>(source.top));
+    const double right = std::min(static_cast<double>(image.GetWidth()),
+                                  static_cast<double>(source.left) + source.width);
+    const double bottom = std::min(static_cast<double>(image.GetHeight()),
+                                   static_cast<double>(source.top) + source.height);
+    if (!(right > left && bottom > top)) return false;
+    dest = zebcore::geom::RectT<float>(
+        static_cast<float>(dest.left + (left - source.left) * scaleX),
+        static_cast<float>(dest.top + (top - source.top) * scaleY),
+        static_cast<float>((right - left) * scaleX), static_cast<float>((bottom - top) * scaleY));
+    source = zebcore::geom::RectT<float>(static_cast<float>(left), static_cast<float>(top),
+                                         static_cast<float>(right - left),
+                                         static_cast<float>(bottom - top));
+    return !dest.IsEmpty();
 }
 
 zebcore::geom::RectT<int> clipBounds(cairo_t* context) {
@@ -131,9 +157,12 @@ void CairoSurface::PopStateStack() {
 void CairoSurface::PaintRect(const ColorRGBA& colour, const zebcore::geom::RectT<float>& rect) {
     if (mLogCalls)
         log("PaintRect(colour=" + FormatColour(colour) + ", rect=" + FormatRect(rect) + ")");
+    const bool finite = AllFinite({rect.left, rect.top, rect.width, rect.height});
+    ZEB_ASSERT_MSG(finite, "PaintRect with a non-finite rectangle");
+    if (!finite) return;
     cairo_new_path(mContext);
     cairo_rectangle(mContext, rect.left, rect.top, rect.width, rect.height);
-    cairo_set_source_rgba(mContext, colour.red, colour.green, colour.blue, colour.alpha);
+    SetSourceColour(mContext, colour);
     cairo_fill(mContext);
 }
 
@@ -145,6 +174,7 @@ void CairoSurface::FillPath(const BrushInterface& brush, const PathInterface& pa
     if (mLogCalls)
         log("FillPath(brush=" + FormatColour(brush.GetColor()) + ", path=" + cairoPath->Describe() +
             ", windingFill=" + FormatBool(windingFill) + ")");
+    if (!usablePath(*cairoPath)) return;
     cairoPath->Replay(mContext);
     cairo_set_fill_rule(mContext, fillRule(windingFill));
     cairoBrush->Apply(mContext);
@@ -157,6 +187,9 @@ void CairoSurface::StrokePath(const PenInterface& pen, const PathInterface& path
     if (!cairoPen || !cairoPath) return;
     if (mLogCalls)
         log("StrokePath(pen=" + cairoPen->Describe() + ", path=" + cairoPath->Describe() + ")");
+    const bool finiteWidth = std::isfinite(pen.GetWidth());
+    ZEB_ASSERT_MSG(finiteWidth, "StrokePath with a non-finite pen width");
+    if (!finiteWidth || !usablePath(*cairoPath)) return;
     cairoPath->Replay(mContext);
     cairoPen->Apply(mContext);
     cairo_stroke(mContext);
@@ -173,6 +206,8 @@ void CairoSurface::ShadePath(const ShaderInterface& shader, const PathInterface&
     if (mLogCalls)
         log("ShadePath(shader=" + cairoShader->Describe() + ", path=" + cairoPath->Describe() +
             ", windingFill=" + FormatBool(windingFill) + ")");
+    ZEB_ASSERT_MSG(cairoShader->IsFinite(), "shader with a non-finite point or stop");
+    if (!cairoShader->IsFinite() || !usablePath(*cairoPath)) return;
     cairoPath->Replay(mContext);
     cairo_set_fill_rule(mContext, fillRule(windingFill));
     cairo_set_source(mContext, cairoShader->Pattern());
@@ -189,6 +224,7 @@ void CairoSurface::Clip(const PathInterface& path, bool windingFill) {
     if (mLogCalls)
         log("Clip(path=" + cairoPath->Describe() + ", windingFill=" + FormatBool(windingFill) +
             ")");
+    if (!usablePath(*cairoPath)) return;
     cairoPath->Replay(mContext);
     cairo_set_fill_rule(mContext, fillRule(windingFill));
     cairo_clip(mContext);
@@ -203,8 +239,12 @@ bool CairoSurface::IsWithinClipBounds(const zebcore::geom::RectT<int>& rect) con
     if (mLogCalls) log("IsWithinClipBounds(rect=" + FormatRect(rect) + ")");
     const zebcore::geom::RectT<int> clip = clipBounds(mContext);
     if (rect.IsEmpty() || clip.IsEmpty()) return false;
-    return std::max(rect.left, clip.left) < std::min(rect.Right(), clip.Right()) &&
-           std::max(rect.top, clip.top) < std::min(rect.Bottom(), clip.Bottom());
+    // In long long: a script's rectangle may end beyond the int range.
+    using Wide = long long;
+    return std::max<Wide>(rect.left, clip.left) <
+               std::min(Wide(rect.left) + rect.width, Wide(clip.left) + clip.width) &&
+           std::max<Wide>(rect.top, clip.top) <
+               std::min(Wide(rect.top) + rect.height, Wide(clip.top) + clip.height);
 }
 
 void CairoSurface::Transform(const zebcore::geom::MatrixT<float>& matrix) {
@@ -238,6 +278,9 @@ void CairoSurface::DrawString(const BrushInterface& brush, const FontInterface& 
             ", text=" + FormatText(text) + ", point=" + FormatPoint(point) +
             ", alignment=" + std::to_string(alignment) +
             ", truncation=" + std::to_string(truncation) + ", width=" + FormatNumber(width) + ")");
+    const bool finite = AllFinite({point.x, point.y});
+    ZEB_ASSERT_MSG(finite, "DrawString at a non-finite point");
+    if (!finite) return;
     cairoBrush->Apply(mContext);
     DrawText(mContext, *cairoFont, text, point, alignment, truncation, width);
 }
@@ -258,13 +301,15 @@ void CairoSurface::DrawImage(const ImageInterface& image, const zebcore::geom::P
         log("DrawImage(image=" + describeImage(image) + ", point=" + FormatPoint(point) +
             ", opacity=" + FormatNumber(opacity) + ")");
     // Cairo ends a context for good on a position it cannot invert.
-    if (!std::isfinite(point.x) || !std::isfinite(point.y)) return;
+    const bool finite = AllFinite({point.x, point.y});
+    ZEB_ASSERT_MSG(finite, "DrawImage at a non-finite point");
+    if (!finite) return;
     cairo_save(mContext);
     cairo_new_path(mContext);
     cairo_rectangle(mContext, point.x, point.y, image.GetWidth(), image.GetHeight());
     cairo_clip(mContext);
     cairo_set_source_surface(mContext, cairoImage->Pixels(), point.x, point.y);
-    cairo_paint_with_alpha(mContext, clampOpacity(opacity));
+    cairo_paint_with_alpha(mContext, LimitedOpacity(opacity));
     cairo_restore(mContext);
 }
 
@@ -278,20 +323,26 @@ void CairoSurface::DrawImage2(const SupplierInterface* supplier, const ImageInte
             ", image=" + describeImage(image) + ", destRect=" + FormatRect(destRect) +
             ", srcRect=" + (srcRect ? FormatRect(*srcRect) : std::string("null")) +
             ", opacity=" + FormatNumber(opacity) + ")");
-    const zebcore::geom::RectT<float> source =
+    zebcore::geom::RectT<float> source =
         srcRect ? *srcRect
                 : zebcore::geom::RectT<float>(0.0f, 0.0f, static_cast<float>(image.GetWidth()),
                                               static_cast<float>(image.GetHeight()));
-    if (source.IsEmpty() || destRect.IsEmpty()) return;
+    zebcore::geom::RectT<float> dest = destRect;
+    const bool finite = AllFinite({source.left, source.top, source.width, source.height, dest.left,
+                                   dest.top, dest.width, dest.height});
+    ZEB_ASSERT_MSG(finite, "DrawImage2 with a non-finite rectangle");
+    if (!finite || source.IsEmpty() || dest.IsEmpty()) return;
+    // Pixels outside the image are not there to sample: only the part of the source inside
+    // it is drawn, onto the part of the destination it maps to.
+    if (!clipSourceToImage(image, source, dest)) return;
     // The source rectangle's pixels onto the destination rectangle.
     cairo_matrix_t placement;
-    cairo_matrix_init(&placement, static_cast<double>(destRect.width) / source.width, 0.0, 0.0,
-                      static_cast<double>(destRect.height) / source.height, destRect.left,
-                      destRect.top);
+    cairo_matrix_init(&placement, static_cast<double>(dest.width) / source.width, 0.0, 0.0,
+                      static_cast<double>(dest.height) / source.height, dest.left, dest.top);
     if (!CanConcatenate(mContext, placement)) return;
     cairo_save(mContext);
     cairo_new_path(mContext);
-    cairo_rectangle(mContext, destRect.left, destRect.top, destRect.width, destRect.height);
+    cairo_rectangle(mContext, dest.left, dest.top, dest.width, dest.height);
     cairo_clip(mContext);
     cairo_transform(mContext, &placement);
     // Only the source rectangle is sampled, and its edge pixels are repeated outwards, so
@@ -300,7 +351,7 @@ void CairoSurface::DrawImage2(const SupplierInterface* supplier, const ImageInte
         cairoImage->Pixels(), source.left, source.top, source.width, source.height);
     cairo_set_source_surface(mContext, region, 0, 0);
     cairo_pattern_set_extend(cairo_get_source(mContext), CAIRO_EXTEND_PAD);
-    cairo_paint_with_alpha(mContext, clampOpacity(opacity));
+    cairo_paint_with_alpha(mContext, LimitedOpacity(opacity));
     cairo_restore(mContext);
     cairo_surface_destroy(region);
 }

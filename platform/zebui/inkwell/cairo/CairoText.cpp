@@ -8,15 +8,19 @@
 #include <string>
 
 #include "zebui/inkwell/cairo/CairoFont.h"
+#include "zebui/inkwell/cairo/CairoLimits.h"
 
 namespace zebui {
 namespace inkwell {
 namespace {
 
+// The first length units (all for a negative length), and never more than kLongestText.
 std::string prefixUTF8(const zebcore::UTF16String& text, int length) {
-    if (length < 0 || static_cast<size_t>(length) >= text.size())
-        return zebcore::utility::UTF16to8(text);
-    return zebcore::utility::UTF16to8(text.substr(0, static_cast<size_t>(length)));
+    const size_t units =
+        std::min(length < 0 ? text.size() : std::min(text.size(), static_cast<size_t>(length)),
+                 kLongestText);
+    if (units == text.size()) return zebcore::utility::UTF16to8(text);
+    return zebcore::utility::UTF16to8(text.substr(0, units));
 }
 
 // A fresh Pango context with the font options of every text here: unhinted outlines and
