@@ -33,16 +33,21 @@ bool loadModuleBytes(const char* moduleName, std::vector<unsigned char>& bytes) 
 int DoLoadEmbeddedCode(lua_State* L) {
     const char* moduleName = luaL_checklstring(L, 1, nullptr);
     // The bytes live only inside RunNative, which also stops what the look-up throws.
-    return utility::RunNative(L, "EmbeddedCodeLoader", [&] {
+    const int status = utility::RunNative(L, "EmbeddedCodeLoader", [&] {
         std::vector<unsigned char> bytes;
-        if (!loadModuleBytes(moduleName, bytes)) return 0;
+        if (!loadModuleBytes(moduleName, bytes)) return -1;
         lua_pushvalue(L, LUA_GLOBALSINDEX);
-        // A load error is no Lua error here: the message stands where the chunk would.
         // Nothing here raises: the load runs protected and the pushes allocate nothing.
-        XuLua_loadChunkFromBuffer(L, reinterpret_cast<const char*>(bytes.data()), bytes.size(),
-                                  moduleName);
-        return 1;
+        return XuLua_loadChunkFromBuffer(L, reinterpret_cast<const char*>(bytes.data()),
+                                         bytes.size(), moduleName);
     });
+    if (status < 0) return 0;  // no such resource: require goes on to its message
+    if (status == 0) return 1;
+    // A chunk that is there but does not load is an error, raised as Lua's own file
+    // searcher raises it, so the script author reads the syntax error and its line.
+    luaL_gsub(L, moduleName, ".", "_");
+    return luaL_error(L, "error loading module '%s' from resource '%s':\n\t%s", moduleName,
+                      lua_tostring(L, -1), lua_tostring(L, -2));
 }
 
 }  // namespace zeblua
