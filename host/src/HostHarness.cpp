@@ -144,9 +144,11 @@ NodeP sendKeyEvent(zui::UI_Node* target, zui::KeyboardAction action,
 
 int hostSendKey(lua_State* L) {
     luaL_checktype(L, 1, LUA_TTABLE);
-    if (!lua_isnoneornil(L, 2)) CheckNodeArgument(L, 2);
+    const bool toTarget = !lua_isnoneornil(L, 2);
+    if (toTarget) CheckNodeArgument(L, 2);
+    lua_settop(L, 2); /* the fields go above */
     const KeyFields fields = readKeyFields(L, 1);
-    zui::UI_Node* target = lua_isnoneornil(L, 2) ? nullptr : CheckNodeArgument(L, 2);
+    zui::UI_Node* target = toTarget ? CheckNodeArgument(L, 2) : nullptr;
     PrepareWrapperPush(L);
     return answerNode(L, "zebhost.sendKey", [&] {
         const NodeP keep(target);
