@@ -12,21 +12,27 @@ struct FailingAllocator {
     lua_Alloc original = nullptr;
     void* originalData = nullptr;
     lua_Integer countdown = 0;  // requests to go until the failure; 0: disarmed
+    bool fired = false;         // the armed failure has happened
 };
 
 FailingAllocator sAllocator;
 
 void* failingAlloc(void* data, void* block, size_t oldSize, size_t newSize) {
     auto* allocator = static_cast<FailingAllocator*>(data);
-    if (newSize > oldSize && allocator->countdown > 0 && --allocator->countdown == 0)
+    if (newSize > oldSize && allocator->countdown > 0 && --allocator->countdown == 0) {
+        allocator->fired = true;
         return nullptr;
+    }
     return allocator->original(allocator->originalData, block, oldSize, newSize);
 }
 
-// -- failAllocation(n)
+// -- fired = failAllocation(n): whether the failure armed before this call happened
 int failAllocation(lua_State* L) {
-    sAllocator.countdown = luaL_checkinteger(L, 1);
-    return 0;
+    const lua_Integer countdown = luaL_checkinteger(L, 1);
+    lua_pushboolean(L, sAllocator.fired);
+    sAllocator.countdown = countdown;
+    sAllocator.fired = false;
+    return 1;
 }
 
 }  // namespace
@@ -34,6 +40,7 @@ int failAllocation(lua_State* L) {
 void InstallFailingAllocator(lua_State* L) {
     sAllocator.original = lua_getallocf(L, &sAllocator.originalData);
     sAllocator.countdown = 0;
+    sAllocator.fired = false;
     lua_setallocf(L, failingAlloc, &sAllocator);
     lua_register(L, "failAllocation", failAllocation);
 }

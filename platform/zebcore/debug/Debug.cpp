@@ -2,6 +2,7 @@
 #include "zebcore/debug/Debug.h"
 
 #include <cstdio>
+#include <cstring>
 #include <fstream>
 
 namespace zebcore {
@@ -18,16 +19,43 @@ bool& echoEnabled() {
     return sEcho;
 }
 
+ScriptPlaceProvider sScriptPlaceProvider = nullptr;
+
+// The build passes absolute source paths; a report names files from the source tree's
+// root, which this file's own path gives.
+std::string sourceRelative(const char* file) {
+    static const std::string sRoot = [] {
+        const std::string self = __FILE__;
+        const std::string tail = "platform/zebcore/debug/Debug.cpp";
+        const bool rooted = self.size() >= tail.size() &&
+                            self.compare(self.size() - tail.size(), tail.size(), tail) == 0;
+        return rooted ? self.substr(0, self.size() - tail.size()) : std::string();
+    }();
+    if (!sRoot.empty() && std::strncmp(file, sRoot.c_str(), sRoot.size()) == 0)
+        return file + sRoot.size();
+    return file;
+}
+
+std::string scriptPlace() {
+    char place[256];
+    if (!sScriptPlaceProvider || !sScriptPlaceProvider(place, sizeof place)) return std::string();
+    return place;
+}
+
 }  // namespace
 
 bool BreakAfterAssertDialog(bool& disabledFlag, const char* expression, const char* message,
                             const char* file, int line, const char* function) {
     if (disabledFlag) return false;
-    reports().push_back({expression ? expression : "", message ? message : "", file ? file : "",
-                         line, function ? function : ""});
+    const AssertReport& report = reports().emplace_back(AssertReport{
+        expression ? expression : "", message ? message : "", file ? sourceRelative(file) : "",
+        line, function ? function : "", scriptPlace()});
     if (echoEnabled())
-        std::fprintf(stderr, "zeb assertion: %s %s (%s:%d in %s)\n", expression ? expression : "",
-                     message ? message : "", file ? file : "?", line, function ? function : "?");
+        std::fprintf(stderr, "zeb assertion: %s %s (%s:%d in %s)%s%s\n", report.expression.c_str(),
+                     report.message.c_str(), file ? report.file.c_str() : "?", line,
+                     function ? function : "?",
+                     report.scriptPlace.empty() ? "" : " in the script at ",
+                     report.scriptPlace.c_str());
     // A headless run has nobody to answer "break?": only a debugger makes it stop.
     return true;
 }
@@ -55,6 +83,14 @@ void ClearRecordedAssertReports() {
 
 void SetAssertEchoEnabled(bool enabled) {
     echoEnabled() = enabled;
+}
+
+void SetScriptPlaceProvider(ScriptPlaceProvider provider) {
+    sScriptPlaceProvider = provider;
+}
+
+ScriptPlaceProvider GetScriptPlaceProvider() {
+    return sScriptPlaceProvider;
 }
 
 }  // namespace debug

@@ -1,6 +1,7 @@
 // Developer diagnostics: assertion reports that never stop a headless run.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -10,12 +11,23 @@ namespace debug {
 struct AssertReport {
     std::string expression;
     std::string message;
-    std::string file;
+    std::string file;  // relative to the source tree, as "platform/zebcore/debug/Debug.cpp"
     int line = 0;
     std::string function;
+    // Where the running script stands, as "script.lua:12", or "" when no script runs
+    // native code.
+    std::string scriptPlace;
 };
 
-// Shows the report (stderr here) and records it. Returns true when the developer
+// Writes the place of the innermost script frame that is running native code into place
+// (size bytes, NUL-terminated) and answers whether there is one. The Lua library registers
+// one, since only it knows which state is running; a report asks it each time.
+using ScriptPlaceProvider = bool (*)(char* place, std::size_t size);
+void SetScriptPlaceProvider(ScriptPlaceProvider provider);
+ScriptPlaceProvider GetScriptPlaceProvider();
+
+// Shows the report (stderr here) with the script's place when a script is running, and
+// records it. Returns true when the developer
 // asked to break; a site whose disabledFlag is set stays silent and is not recorded.
 bool BreakAfterAssertDialog(bool& disabledFlag, const char* expression, const char* message,
                             const char* file, int line, const char* function);

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <exception>
 
+#include "zeblua/utility/src/RunningScript.h"
+
 struct lua_State;
 
 namespace zeblua {
@@ -26,14 +28,18 @@ void RaiseNativeMessage(lua_State* L, const char* message);
 //   return RunNative(L, "ToUpper", [&] { ...; return 1; });
 // work may push its results. A push can raise only Lua's memory error, which would skip
 // the destructors of what work still holds, so work pushes last.
+// While work runs, an assertion report names the script's place (RunningScript).
 template <typename Work> auto RunNative(lua_State* L, const char* functionName, Work work) {
     char message[kNativeMessageSize];
-    try {
-        return work();
-    } catch (const std::exception& error) {
-        FormatNativeMessage(message, functionName, error.what());
-    } catch (...) {
-        FormatNativeMessage(message, functionName, "unknown exception");
+    {
+        const RunningScript running(L);  // gone before the raise below
+        try {
+            return work();
+        } catch (const std::exception& error) {
+            FormatNativeMessage(message, functionName, error.what());
+        } catch (...) {
+            FormatNativeMessage(message, functionName, "unknown exception");
+        }
     }
     RaiseNativeMessage(L, message);
     return decltype(work())();  // never reached: the raise does not return
