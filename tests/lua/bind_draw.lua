@@ -7,13 +7,7 @@ require "zeblua.inkwell.zebSurfaceInterface"
 local check, checkEqual = zebhost.check, zebhost.checkEqual
 local rect, rgba = zeblua_CreateNewRectF32, zeblua_CreateNewRGBA
 
-local function newNode(class, id, frame, parent)
-  local node = zebhost.newNode(class)
-  node:UI_SetNodeID(id)
-  node:UI_SetLocalRectF(frame)
-  if parent then parent:ChildPushBack(node) end
-  return node
-end
+local newNode = zebhost.newNode
 
 local function pixelText(picture, x, y)
   return table.concat({ picture:pixel(x, y) }, ",")

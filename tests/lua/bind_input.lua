@@ -4,13 +4,7 @@ local check, checkEqual = zebhost.check, zebhost.checkEqual
 local rect = zeblua_CreateNewRectF32
 local keys, focus, mouse = zebhost.keys, zebhost.focus, zebhost.mouse
 
-local function newNode(class, id, frame, parent)
-  local node = zebhost.newNode(class)
-  node:UI_SetNodeID(id)
-  node:UI_SetLocalRectF(frame)
-  if parent then parent:ChildPushBack(node) end
-  return node
-end
+local newNode = zebhost.newNode
 
 -- root 60 x 40 > parent (whole root) > child at (10, 10), 20 x 20
 local root = newNode("UI_SubView", "root", rect(0, 0, 60, 40))

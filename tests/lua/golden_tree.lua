@@ -10,10 +10,8 @@ local rect, point, rgba = zeblua_CreateNewRectF32, zeblua_CreateNewPointF32, zeb
 local goldenFolder = arg[0]:match("^(.*)/lua/[^/]*$") or "tests"
 
 local function newNode(frame, parent, draw)
-  local node = zebhost.newNode("UI_SubView")
-  node:UI_SetLocalRectF(frame)
-  if parent then parent:ChildPushBack(node) end
-  if draw then node:BindZebOperation("uiDraw", draw) end
+  local node = zebhost.newNode("UI_SubView", nil, frame, parent)
+  node:BindZebOperation("uiDraw", draw)
   return node
 end
 

@@ -3,13 +3,7 @@
 local check, checkEqual = zebhost.check, zebhost.checkEqual
 local rect = zeblua_CreateNewRectF32
 
-local function newNode(class, id, frame, parent)
-  local node = zebhost.newNode(class)
-  node:UI_SetNodeID(id)
-  node:UI_SetLocalRectF(frame)
-  if parent then parent:ChildPushBack(node) end
-  return node
-end
+local newNode = zebhost.newNode
 
 -- Every node takes every down, so the answer is the node the pointer reached.
 local function takesAll(node)

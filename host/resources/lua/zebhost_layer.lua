@@ -119,6 +119,20 @@ function zeblua_CreateNewTransformMatrix(...)
   return m
 end
 
+-- zebhost.newNode(className [, id [, frame [, parent]]]): the native maker, then the id,
+-- the frame (a rect) and the parent's ChildPushBack when given, so a test builds its tree
+-- one line per node.
+do
+  local makeNode = zebhost.newNode
+  function zebhost.newNode(className, id, frame, parent)
+    local node = makeNode(className)
+    if id then node:UI_SetNodeID(id) end
+    if frame then node:UI_SetLocalRectF(frame) end
+    if parent then parent:ChildPushBack(node) end
+    return node
+  end
+end
+
 -- Checks for scripts that run as tests. A failed check raises an error that names the
 -- caller's file and line, so zebhost prints it and exits non-zero:
 --   zebhost.check(condition [, message])
