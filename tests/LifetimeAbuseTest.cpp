@@ -30,17 +30,27 @@ int newSubView(lua_State* L) {
     return zeblua::ui::LuaControlWrapperFactory(NodeP(new zebui::ui::UI_SubView), L) ? 1 : 0;
 }
 
-// Nothing is required here: every module a test uses opens when its first proxy is pushed,
-// which is itself under test.
+// Nothing is required in SetUp: that a proxy opens its own module is itself under test;
+// the other tests require every module first, so that each fails only by its own fault.
 class LifetimeAbuseTest : public LuaTest {
 protected:
+    void requireModules() {
+        runLua("for _, name in ipairs({'inkwell.zebInkwell', 'inkwell.zebSurfaceInterface',\n"
+               "    'inkwell.zebSupplier', 'inkwell.zebPathInterface', 'inkwell.PenInterface',\n"
+               "    'inkwell.ShaderInterface', 'inkwell.zebImageInterface', 'zebUIResources',\n"
+               "    'zebcontrols', 'debugSupport'}) do\n"
+               "  require('zeblua.' .. name)\n"
+               "end");
+    }
+
     void SetUp() override {
         LuaTest::SetUp();
         lua_register(L, "newSubView", newSubView);
         lua_pushlightuserdata(L, this);
         lua_pushcclosure(L, drawOnCanvas, 1);
         lua_setglobal(L, "drawOnCanvas");
-        runLua("rect = zeblua_CreateNewRectF32; red = zeblua_CreateNewRGBA(1, 0, 0, 1)");
+        runLua("rect, point = zeblua_CreateNewRectF32, zeblua_CreateNewPointF32\n"
+               "red = zeblua_CreateNewRGBA(1, 0, 0, 1)");
         zebcore::debug::ClearRecordedAssertReports();
     }
 
@@ -82,6 +92,7 @@ protected:
 };
 
 TEST_F(LifetimeAbuseTest, ForgedWrappersAreBadUserData) {
+    requireModules();
     runLua("real = newSubView(); nodeSet = getmetatable(real)\n"
            "function forge(fields)\n"
            "  local p = newproxy(true)\n"
@@ -130,6 +141,7 @@ TEST_F(LifetimeAbuseTest, ProxiesPushedBeforeTheirModuleOpenIt) {
 // Whatever a script does to a surface proxy's __gc inside the scope, the scope still ends
 // the record, and a light userdata of it never reads freed memory.
 TEST_F(LifetimeAbuseTest, SurfaceGcCalledOrRemovedLeavesTheScopeWhole) {
+    requireModules();
     const char* const abuses[] = {
         "s.__gc(s)",
         "s:__gc(); s:__gc()",
@@ -160,7 +172,56 @@ TEST_F(LifetimeAbuseTest, SurfaceGcCalledOrRemovedLeavesTheScopeWhole) {
     EXPECT_TRUE(mCanvas.isClear(1, 1));
 }
 
+// Every metamethod a script can reach on every kind of proxy, called by hand: twice on its
+// own object, on each object of another kind, inside the scope and after it; then the
+// collector and the state's close find nothing they could trip over.
+TEST_F(LifetimeAbuseTest, HandCalledMetamethodsOfEveryKindTouchNothingFreed) {
+    requireModules();
+    runLua(R"(
+        calls, refused = 0, 0
+        function abuse()
+            for _, x in pairs(kinds) do
+                local mt = getmetatable(x)
+                for _, method in ipairs({"__gc", "Release", "__tostring"}) do
+                    local f = mt[method]
+                    if f then
+                        f(x); f(x)
+                        calls = calls + 2
+                        for _, other in pairs(kinds) do
+                            if getmetatable(other) ~= mt and not pcall(f, other) then
+                                refused = refused + 1
+                            end
+                        end
+                    end
+                end
+            end
+        end
+        assert(drawOnCanvas(function(ink)
+            local off = ink:CreateOffscreenSurface(4, 4, false)
+            kinds = {
+                ink, ink:GetSurface(), ink:GetSurface(), off, zebInkwell.NewInkwell(off),
+                PathInterface.newPath(ink), PenInterface.newPen(ink, red, 1),
+                Shader.newLinearShader(ink, point(0, 0), point(1, 1), red, red),
+                ink:GetSupplier(), off:GetSurfaceImage(), newSubView(),
+                zebUIResources.getResources("zebui_resources"),
+            }
+            abuse()
+            kinds[2]:PaintRect(rect(0, 0, 8, 8), red)
+        end))
+        abuse()
+        for _, x in ipairs(kinds) do tostring(x) end
+    )");
+    EXPECT_EQ(luaValue("#kinds"), "12");
+    EXPECT_GT(std::stoi(luaValue("calls")), 40);
+    EXPECT_GT(std::stoi(luaValue("refused")), 100);
+    EXPECT_TRUE(mCanvas.isClear(1, 1)) << "a released surface drew";
+    runLua("kinds = nil");
+    collectGarbage();
+    collectGarbage();
+}
+
 TEST_F(LifetimeAbuseTest, ExtraPopsCannotReachTheScopesSavedState) {
+    requireModules();
     const struct {
         const char* body;
         int refusedPops;
@@ -190,6 +251,7 @@ TEST_F(LifetimeAbuseTest, ExtraPopsCannotReachTheScopesSavedState) {
 // Ticks run on the main thread, so a coroutine that pushed the wrapper may die, be
 // collected, or stay suspended; a tick's errors and yields go nowhere.
 TEST_F(LifetimeAbuseTest, TimersSurviveTheirCoroutinesAndTheirOwnFaults) {
+    requireModules();
     runLua(R"(
         ticks, errors = 0, {}
         local co = coroutine.create(function()
@@ -232,6 +294,7 @@ TEST_F(LifetimeAbuseTest, TimersSurviveTheirCoroutinesAndTheirOwnFaults) {
 // Errors and yields in a draw scope and in the coverage hook end as Lua errors, and the
 // scope still closes.
 TEST_F(LifetimeAbuseTest, ErrorsAndYieldsInsideCallbacksAreCleanLuaErrors) {
+    requireModules();
     const struct {
         const char* code;
         const char* error;
@@ -252,7 +315,7 @@ TEST_F(LifetimeAbuseTest, ErrorsAndYieldsInsideCallbacksAreCleanLuaErrors) {
          "local x = 1\n",
          "no hits"},
     };
-    runLua("require 'zeblua.debugSupport'; coverage = debugSupport.coverageSupport");
+    runLua("coverage = debugSupport.coverageSupport");
     for (const auto& c : cases) {
         runLua(std::string("co = coroutine.create(function()\n") + c.code +
                "\nend)\n"

@@ -375,6 +375,7 @@ int surfaceTransform(lua_State* L) {
     if (!proxy) return 0;
     MatrixT<float> matrix;
     GetMatrixF32FromLua(L, 2, matrix);
+    if (!SurfaceInScope(proxy)) return 0; /* a field's __index may have released it */
     proxy->surface->Transform(matrix);
     return 0;
 }

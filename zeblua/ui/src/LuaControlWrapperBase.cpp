@@ -107,7 +107,6 @@ void LuaControlWrapperBase::RemoveTimer(int id) {
 
 void LuaControlWrapperBase::KeepWhileTimersRun(lua_State* L, int index) {
     if (mTimers.empty()) return;
-    if (index < 0) index = lua_gettop(L) + index + 1;
     utility::PushOrMakeRegistryTable(L, &sTimerHoldsKey, nullptr, endHeldWrappers);
     lua_pushlightuserdata(L, this);
     lua_pushvalue(L, index);

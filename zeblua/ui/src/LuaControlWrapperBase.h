@@ -48,9 +48,10 @@ public:
     // Stops the timer and releases its reference. Nothing without a node.
     virtual void RemoveTimer(int id);
 
-    // Holds the userdata at index, this wrapper's, in the registry until the last timer
-    // goes; call it once a timer is installed. Raises only Lua's memory error, and then
-    // the timer runs unheld, stopped at the latest when the collector takes the wrapper.
+    // Holds the userdata at index (absolute), this wrapper's, in the registry until the
+    // last timer goes; call it once a timer is installed. Raises only Lua's memory error,
+    // and then the timer runs unheld, stopped at the latest when the collector takes the
+    // wrapper.
     void KeepWhileTimersRun(lua_State* L, int index);
     // Stops this wrapper's timers, releases their references and the userdata's hold, and
     // drops the node. Raises no Lua error.
