@@ -291,6 +291,23 @@ TEST_F(LifetimeAbuseTest, TimersSurviveTheirCoroutinesAndTheirOwnFaults) {
     EventLoop::Get()->AdvanceTime(50);
 }
 
+// Where no opener ever ran on the main thread there is no thread for ticks: a wrapper
+// pushed from a coroutine (its module opened on the way) refuses timers with a report.
+TEST_F(LifetimeAbuseTest, WithoutAKnownMainThreadTimersAreRefused) {
+    lua_State* bare = luaL_newstate();
+    luaL_openlibs(bare);
+    lua_register(bare, "newSubView", newSubView);
+    ASSERT_EQ(luaL_dostring(bare, "return coroutine.wrap(function()\n"
+                                  "  local w = newSubView()\n"
+                                  "  return select('#', w:UI_InstallTimer(0.01, print))\n"
+                                  "end)()"),
+              0)
+        << lua_tostring(bare, -1);
+    EXPECT_EQ(lua_tointeger(bare, -1), 0);
+    lua_close(bare);
+    EXPECT_EQ(reportCount("No main thread: open the library on it before timers"), 1);
+}
+
 // Errors and yields in a draw scope and in the coverage hook end as Lua errors, and the
 // scope still closes.
 TEST_F(LifetimeAbuseTest, ErrorsAndYieldsInsideCallbacksAreCleanLuaErrors) {

@@ -9,6 +9,7 @@
 
 #include "vex/app/App.h"
 #include "xukernel/XuLua.h"
+#include "zeblua/utility/src/MainThread.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/utility/ResourceManager.h"
 
@@ -53,6 +54,7 @@ int DoLoadEmbeddedCode(lua_State* L) {
 }  // namespace zeblua
 
 extern "C" int luaopen_zeblua_EmbeddedCodeLoader(lua_State* L) {
+    zeblua::utility::RecordMainThread(L);
     lua_pushcclosure(L, zeblua::DoLoadEmbeddedCode, 0);
     return 1;
 }
