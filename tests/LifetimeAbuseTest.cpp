@@ -291,6 +291,45 @@ TEST_F(LifetimeAbuseTest, TimersSurviveTheirCoroutinesAndTheirOwnFaults) {
     EventLoop::Get()->AdvanceTime(50);
 }
 
+// Bound operations are callbacks too: bound from a coroutine that is gone, failing,
+// yielding, ending their own wrapper or popping their scope's state, they leave the node,
+// the draw pass and the input dispatch working.
+TEST_F(LifetimeAbuseTest, BoundOperationsSurviveTheirFaults) {
+    requireModules();
+    runLua(R"(
+        root = zebhost.newNode("UI_SubView")
+        root:UI_SetLocalRectF(rect(0, 0, 16, 16))
+        local co = coroutine.create(function()
+            local view = zebhost.newNode("UI_SubView")
+            view:UI_SetLocalRectF(rect(0, 0, 16, 16))
+            root:ChildPushBack(view)
+            view:BindZebOperation("uiDraw", function(ink)
+                draws = (draws or 0) + 1
+                kept = ink:GetSurface()
+                kept:PopStateStack()
+                kept:PaintRect(rect(0, 0, 4, 4), red)
+                getmetatable(view).__gc(view)
+                if draws == 2 then error("drawn wrong") end
+                if draws == 3 then coroutine.yield() end
+            end)
+            view:BindZebOperation("uiMouseEvent", function(event)
+                clicks = (clicks or 0) + 1
+                if clicks == 1 then coroutine.yield() end
+                error("clicked wrong")
+            end)
+        end)
+        assert(coroutine.resume(co))
+        co = nil
+        collectgarbage(); collectgarbage()
+        for i = 1, 3 do pictures = { zebhost.draw(root) } end
+        for i = 1, 2 do zebhost.click(root, 2, 2) end
+    )");
+    EXPECT_EQ(luaValue("draws"), "3");
+    EXPECT_GE(std::stoi(luaValue("clicks")), 2);  // every event of both clicks reached it
+    EXPECT_EQ(luaValue("table.concat({ pictures[1]:pixel(1, 1) }, ',')"), "255,0,0,255");
+    expectEnded("kept:PaintRect(rect(0, 0, 1, 1), red)", kSurfaceEnded);
+}
+
 // Where no opener ever ran on the main thread there is no thread for ticks: a wrapper
 // pushed from a coroutine (its module opened on the way) refuses timers with a report.
 TEST_F(LifetimeAbuseTest, WithoutAKnownMainThreadTimersAreRefused) {
