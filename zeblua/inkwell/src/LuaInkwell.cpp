@@ -57,6 +57,7 @@ void endOwnedInkwell(lua_State* L, InkwellProxy* proxy) {
 // -- ink:Release(), and __gc
 // Only an Inkwell that NewInkwell made is deleted; a draw callback's belongs to the toolkit.
 int inkwellRelease(lua_State* L) {
+    if (utility::IsCopiedFinalizer(L, kZebLuaInkwellMetaTableName)) return 0;
     InkwellProxy* proxy = zeblua_checkInkwell(L, 1);
     if (proxy->owned && proxy->inkwell) endOwnedInkwell(L, proxy);
     return 0;

@@ -47,6 +47,22 @@ int endHeldWrappers(lua_State* L) {
     return 0;
 }
 
+// Pushes the metatable of the value at index and answers true when it is one the controls
+// module registered; pushes nothing and answers false otherwise. Raises no Lua error.
+bool pushWrapperMetatable(lua_State* L, int index) {
+    if (lua_type(L, index) != LUA_TUSERDATA || !lua_getmetatable(L, index)) return false;
+    utility::PushRegistryTable(L, &sWrapperMetatablesKey);
+    bool registered = false;
+    if (lua_istable(L, -1)) {
+        lua_pushvalue(L, -2);
+        lua_rawget(L, -2);
+        registered = lua_toboolean(L, -1) != 0;
+        lua_pop(L, 1);
+    }
+    lua_pop(L, registered ? 1 : 2); /* the set; the metatable too when it is no wrapper's */
+    return registered;
+}
+
 // A tick, under lua_cpcall: the main thread may be resuming a coroutine, and a memory
 // error in its own pushes must not unwind into that coroutine's caller.
 int callTimerFunction(lua_State* L) {
@@ -140,19 +156,11 @@ void LuaControlWrapperBase::stopTimers() {
 }
 
 LuaControlWrapperBase* GetControlUserData(lua_State* L, int index) {
-    if (lua_type(L, index) == LUA_TUSERDATA && lua_getmetatable(L, index)) {
-        utility::PushRegistryTable(L, &sWrapperMetatablesKey);
-        bool isWrapper = false;
-        if (lua_istable(L, -1)) {
-            lua_pushvalue(L, -2);
-            lua_rawget(L, -2);
-            isWrapper = lua_toboolean(L, -1) != 0;
-            lua_pop(L, 1);
-        }
-        lua_getfield(L, -2, "ControlWrapperIdentifier");
-        isWrapper = isWrapper && lua_type(L, -1) == LUA_TFUNCTION;
-        lua_pop(L, 3); /* field, set, metatable */
-        if (isWrapper) return *static_cast<LuaControlWrapperBase**>(lua_touserdata(L, index));
+    if (pushWrapperMetatable(L, index)) {
+        lua_getfield(L, -1, "ControlWrapperIdentifier");
+        const bool marked = lua_type(L, -1) == LUA_TFUNCTION;
+        lua_pop(L, 2); /* field, metatable */
+        if (marked) return *static_cast<LuaControlWrapperBase**>(lua_touserdata(L, index));
     }
     luaL_error(L, "Bad user data");
     return nullptr;
@@ -166,9 +174,17 @@ void MarkWrapperMetatable(lua_State* L) {
     lua_pop(L, 1);
 }
 
+// The collector's call ends a wrapper even when a script removed the metatable's
+// "ControlWrapperIdentifier": raising there would leave the wrapper and its node to leak,
+// and does nothing on a script's userdata that it was copied to (IsCopiedFinalizer).
 int DoPtrBasedGC(lua_State* L) {
-    if (GetControlUserData(L, 1))
-        endWrapper(static_cast<LuaControlWrapperBase**>(lua_touserdata(L, 1)));
+    if (pushWrapperMetatable(L, 1))
+        lua_pop(L, 1);
+    else if (utility::RunsAsFinalizerOfArgument(L))
+        return 0; /* copied into a script's own metatable */
+    else
+        GetControlUserData(L, 1); /* raises "Bad user data" */
+    endWrapper(static_cast<LuaControlWrapperBase**>(lua_touserdata(L, 1)));
     return 0;
 }
 

@@ -71,5 +71,27 @@ int NothingGC(lua_State*) {
     return 0;
 }
 
+bool IsCopiedFinalizer(lua_State* L, const char* metatableName) {
+    if (lua_type(L, 1) != LUA_TUSERDATA || !lua_getmetatable(L, 1)) return false;
+    pushMetatable(L, metatableName);
+    const bool registered = lua_rawequal(L, -1, -2) != 0;
+    lua_pop(L, 2);
+    return !registered && RunsAsFinalizerOfArgument(L);
+}
+
+bool RunsAsFinalizerOfArgument(lua_State* L) {
+    if (lua_type(L, 1) != LUA_TUSERDATA || !lua_getmetatable(L, 1)) return false;
+    lua_pushliteral(L, "__gc"); /* a fixed name of Lua's: interned, no allocation */
+    lua_rawget(L, -2);
+    lua_Debug running;
+    bool same = false;
+    if (lua_getstack(L, 0, &running) && lua_getinfo(L, "f", &running)) { /* pushes the function */
+        same = lua_rawequal(L, -1, -2) != 0;
+        lua_pop(L, 1);
+    }
+    lua_pop(L, 2); /* __gc, metatable */
+    return same;
+}
+
 }  // namespace utility
 }  // namespace zeblua

@@ -50,6 +50,15 @@ int PushProxyString(lua_State* L, const char* displayName, const void* shown);
 // The __gc of a proxy that owns nothing.
 int NothingGC(lua_State* L);
 
+// A script can copy a __gc into a metatable of its own (newproxy(true)); the collector
+// then calls it on that userdata, from whatever allocation made it run, in a host's
+// unprotected call too, where a type error would abort the process. True when the running
+// function is the __gc of the metatable of the userdata at 1 and that metatable is not
+// the one registered under metatableName: the __gc then ends nothing and raises nothing.
+bool IsCopiedFinalizer(lua_State* L, const char* metatableName);
+// As IsCopiedFinalizer, whatever the metatable; the caller has found it is not its own.
+bool RunsAsFinalizerOfArgument(lua_State* L);
+
 // --- Pushing -------------------------------------------------------------------------
 
 template <class T>
@@ -129,25 +138,30 @@ template <class T> void ReleaseHeldReference(T** block) {
 //   };
 //   {"__gc", DeleteObjectGC<PenProxy>}, {"__tostring", HeldObject2string<PenProxy>},
 // Each checks argument 1 against the metatable, so a script that calls obj.__gc on
-// something else gets Lua's type error, and each does nothing on a null pointer.
+// something else gets Lua's type error, and each does nothing on a null pointer or as a
+// copied finalizer (IsCopiedFinalizer).
 
 template <class Proxy> int DeleteObjectGC(lua_State* L) {
+    if (IsCopiedFinalizer(L, Proxy::kMetatableName)) return 0;
     DeleteHeldObject(CheckPointerBlock<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
     return 0;
 }
 
 template <class Proxy> int DeleteIfOwnedGC(lua_State* L) {
+    if (IsCopiedFinalizer(L, Proxy::kMetatableName)) return 0;
     DeleteIfOwned(CheckOwnedPointer<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
     return 0;
 }
 
 template <class Proxy> int ReleaseReferenceGC(lua_State* L) {
+    if (IsCopiedFinalizer(L, Proxy::kMetatableName)) return 0;
     ReleaseHeldReference(CheckPointerBlock<typename Proxy::Object>(L, 1, Proxy::kMetatableName));
     return 0;
 }
 
 // The toolkit owns the object: the proxy only forgets it.
 template <class Proxy> int ClearPointerGC(lua_State* L) {
+    if (IsCopiedFinalizer(L, Proxy::kMetatableName)) return 0;
     *CheckPointerBlock<typename Proxy::Object>(L, 1, Proxy::kMetatableName) = nullptr;
     return 0;
 }
