@@ -116,6 +116,7 @@ TEST_F(HostCanvasTest, EveryArgumentIsCheckedBeforeTheFunctionRuns) {
     } cases[] = {
         {"zebhost.canvas(0, 8, draw)", "bad argument #1 to 'canvas' (width out of range"},
         {"zebhost.canvas(8, 40000, draw)", "bad argument #2 to 'canvas' (height out of range"},
+        {"zebhost.canvas(20000, 20000, draw)", "zebhost.canvas: larger than 256 MiB of pixels"},
         {"zebhost.canvas('wide', 8, draw)", "bad argument #1 to 'canvas' (number expected"},
         {"zebhost.canvas(8, 8, 'draw')", "bad argument #3 to 'canvas' (function expected"},
         {"zebhost.canvas(8, 8, draw, {})", "bad argument #4 to 'canvas' (string expected"},

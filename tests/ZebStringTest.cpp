@@ -43,6 +43,11 @@ protected:
         for (const auto& [call, expected] : cases)
             EXPECT_EQ(results(call), expected) << call;
     }
+
+    void expectErrors(const std::vector<std::pair<std::string, std::string>>& cases) {
+        for (const auto& [call, message] : cases)
+            EXPECT_EQ(luaError(call), message) << call;
+    }
 };
 
 TEST_F(ZebStringTest, PositionHelperDefaultsOnlyForMissingOrNilAndCountsNegativesFromTheEnd) {
@@ -71,15 +76,12 @@ TEST_F(ZebStringTest, ByteFunctionsTakeOneBasedBytePositions) {
                    {"S.IsAlphaB('a1')", "true"},
                    {"S.IsAlphaB('a1', -1)", "false"},
                    {"S.IsAlphaB('\xC3\xA9')", "false"}});
-    const std::vector<std::pair<std::string, std::string>> failures = {
-        {"S.GetCharB('abc', 4)", "GetCharB: Invalid stack position"},
-        {"S.GetCharB('abc', 0)", "GetCharB: Invalid stack position"},
-        {"S.IsSpaceB('', 1)", "IsSpaceB: Invalid stack position"},
-        {"S.IsAlphaB('ab', -3)", "IsAlphaB: Invalid stack position"},
-        {"S.MatchB('', 'x', 1)", "MatchB: Invalid stack position"},
-        {"S.ReplaceB('abc', 'a', 'b', 4)", "ReplaceB: Invalid stack position"}};
-    for (const auto& [call, message] : failures)
-        EXPECT_EQ(luaError(call), message) << call;
+    expectErrors({{"S.GetCharB('abc', 4)", "GetCharB: Invalid stack position"},
+                  {"S.GetCharB('abc', 0)", "GetCharB: Invalid stack position"},
+                  {"S.IsSpaceB('', 1)", "IsSpaceB: Invalid stack position"},
+                  {"S.IsAlphaB('ab', -3)", "IsAlphaB: Invalid stack position"},
+                  {"S.MatchB('', 'x', 1)", "MatchB: Invalid stack position"},
+                  {"S.ReplaceB('abc', 'a', 'b', 4)", "ReplaceB: Invalid stack position"}});
     // The position of GetCharB is required, and a numeric string is no number.
     EXPECT_THAT(luaError("S.GetCharB('abc')"), HasSubstr("bad argument #2 to 'GetCharB'"));
     EXPECT_THAT(luaError("S.GetCharB('abc', '2')"), HasSubstr("number expected, got string"));
@@ -244,16 +246,13 @@ TEST_F(ZebStringTest, PositionsAndCountsBeyondAnyStringAnswerAsTheStringsEndsDo)
                              "S.SubstringB('hello', 1, -big)", "S.SubstringB('hello', 1, -inf)",
                              "S.SubstringB('hello', 0.5)"})
         EXPECT_EQ(luaError(call), "SubstringB: Bad character count, must be >= 0") << call;
-    const std::vector<std::pair<std::string, std::string>> failures = {
-        {"S.GetCharB('abc', big)", "GetCharB: Invalid stack position"},
-        {"S.GetCharB('abc', -1e19)", "GetCharB: Invalid stack position"},
-        {"S.GetCharB('abc', nan)", "GetCharB: Invalid stack position"},
-        {"S.IsSpaceB('abc', -inf)", "IsSpaceB: Invalid stack position"},
-        {"S.IsAlphaB('abc', 1e19)", "IsAlphaB: Invalid stack position"},
-        {"S.MatchB('abc', 'b', nan)", "MatchB: Invalid stack position"},
-        {"S.ReplaceB('abc', 'a', 'b', -big)", "ReplaceB: Invalid stack position"}};
-    for (const auto& [call, message] : failures)
-        EXPECT_EQ(luaError(call), message) << call;
+    expectErrors({{"S.GetCharB('abc', big)", "GetCharB: Invalid stack position"},
+                  {"S.GetCharB('abc', -1e19)", "GetCharB: Invalid stack position"},
+                  {"S.GetCharB('abc', nan)", "GetCharB: Invalid stack position"},
+                  {"S.IsSpaceB('abc', -inf)", "IsSpaceB: Invalid stack position"},
+                  {"S.IsAlphaB('abc', 1e19)", "IsAlphaB: Invalid stack position"},
+                  {"S.MatchB('abc', 'b', nan)", "MatchB: Invalid stack position"},
+                  {"S.ReplaceB('abc', 'a', 'b', -big)", "ReplaceB: Invalid stack position"}});
     EXPECT_EQ(results("S.GetCharB('abc', -3.5)"), "a");
 }
 

@@ -2,6 +2,7 @@
 #include "host/src/HostCanvas.h"
 
 #include <filesystem>
+#include <stdexcept>
 #include <system_error>
 
 #include <boost/intrusive_ptr.hpp>
@@ -57,6 +58,7 @@ int drawInScope(lua_State* L) {
 CanvasResult paintCanvas(lua_State* L, int width, int height, const char* pngPath) {
     const boost::intrusive_ptr<CairoSurface> surface(
         CanvasSupplier().MakeOffscreenCairoSurface(width, height, false));
+    if (!surface) throw std::length_error("larger than 256 MiB of pixels");
     zebui::inkwell::Inkwell inkwell(&CanvasSupplier(), surface.get());
     surface->PushStateStack();
     surface->SetAntiAliasPolicy(zebui::inkwell::kAntiAliasPolicy_Med);
