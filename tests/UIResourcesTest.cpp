@@ -325,18 +325,23 @@ TEST_F(UIResourcesTest, ResourcesAndImagesAboveTheirLimitsAreRefusedWithAReport)
     const fs::path huge = mRoot / "png" / "huge.png";
     std::ofstream(huge, std::ios::binary).put('\0');
     fs::resize_file(huge, zebui::utility::kLargestResourceBytes + 1);
+    const fs::path hugeModule = mRoot / "lua" / "hugemodule.lua";
+    fs::create_directories(hugeModule.parent_path());
+    std::ofstream(hugeModule, std::ios::binary).put('\0');
+    fs::resize_file(hugeModule, zebui::utility::kLargestResourceBytes + 1);
     // A PNG header that claims 20000 x 20000 pixels, 1.6 GB once decoded.
     std::ofstream(mRoot / "png" / "bomb.png", std::ios::binary)
         << std::string("\x89PNG\r\n\x1a\n\0\0\0\x0dIHDR\0\0\x4e\x20\0\0\x4e\x20\x08\x06\0\0\0", 29);
     runLua("res = zebUIResources.getResources(zebUIResources.app_resources)");
     EXPECT_THAT(luaError("res:getImage(supplier, 'huge')"), HasSubstr("image 'huge' not found"));
     EXPECT_THAT(luaError("res:getImage(supplier, 'bomb')"), HasSubstr("image 'bomb' not found"));
+    EXPECT_THAT(luaError("require 'hugemodule'"), HasSubstr("module 'hugemodule' not found"));
     std::vector<std::string> messages;
     for (const auto& report : zebcore::debug::RecordedAssertReports())
         messages.push_back(report.message);
-    EXPECT_EQ(messages,
-              (std::vector<std::string>{"resource file larger than the resource limit",
-                                        "PNG image larger than the decoded image limit"}));
+    EXPECT_EQ(messages, (std::vector<std::string>{"resource file larger than the resource limit",
+                                                  "PNG image larger than the decoded image limit",
+                                                  "resource file larger than the resource limit"}));
     // Exactly at the limit is still read.
     fs::resize_file(huge, zebui::utility::kLargestResourceBytes);
     std::vector<unsigned char> bytes;

@@ -23,10 +23,8 @@ bool loadModuleBytes(const char* moduleName, std::vector<unsigned char>& bytes) 
     std::replace(resourceName.begin(), resourceName.end(), '.', '_');
     const zebcore::UTF16String name = zebcore::utility::AsciiToUTF16(resourceName);
     const zebcore::UTF16String type = u"lua";
-    const auto* manager = vex::app::App::GetApp()->GetAppResourceManager();
-    if (!manager->ResourceExists(name, type)) return false;
-    manager->LoadResourceBytes(name, type, bytes);
-    return true;
+    // A resource above the resource limit is refused (and reported) as if it were missing.
+    return vex::app::App::GetApp()->GetAppResourceManager()->LoadResourceBytes(name, type, bytes);
 }
 
 }  // namespace
