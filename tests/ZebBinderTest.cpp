@@ -88,7 +88,6 @@ TEST_F(ZebBinderTest, HooksLeftByAReplacedTableAreInertAndANewBindingStartsAfres
     runLua(R"(node:BindZebOperation("uiSizeChanged", function() calls[#calls + 1] = "new" end))");
     node->UI_SetLocalRectF(RectT<float>(0, 0, 6, 6));
     EXPECT_EQ(luaValue("table.concat(calls, ' ')"), "new");
-    node->UI_GainKeyboardFocus(kFocusChangeReason_Unspecified);
 }
 
 TEST_F(ZebBinderTest, DrawingRunsInAFreshStateAtMediumAntiAliasAndNeedsNoSurface) {

@@ -106,9 +106,6 @@ int hostNewNode(lua_State* L) {
         return luaL_error(L, "zebhost.newNode: unknown class '%s' (known: %s)", className,
                           lua_tostring(L, -1));
     }
-    lua_getglobal(L, "require");
-    lua_pushstring(L, "zeblua.zebcontrols");
-    lua_call(L, 1, 0);
     PrepareWrapperPush(L);
     const bool pushed = zeblua::utility::RunNative(L, "zebhost.newNode", [&] {
         const NodeP node(found->make());

@@ -17,9 +17,9 @@ namespace zebhost {
 // Adds to the global table zebhost:
 //   zebhost.newNode(className) -> a new node of that toolkit class ("UI_Node",
 //       "UI_SubView", "UI_Button", "UI_RadioGroup", "UI_Slider", "UI_ScrollBar",
-//       "UI_TabWell", ...) with its wrapper from the factory. Opens the controls module
-//       first, so the wrapper has its metatable. An unknown name raises an error that
-//       lists the known ones.
+//       "UI_TabWell", ...) with its wrapper from the factory (whose push opens the
+//       controls module if needed). An unknown name raises an error that lists the known
+//       ones. The script layer adds optional id, frame and parent arguments.
 void OpenHostNodes(lua_State* L);
 
 // Pushing a node's wrapper from a frame that holds C++ objects, in two steps:

@@ -309,7 +309,8 @@ void UI_Node::DeliverFocusChange(FocusChangeReason reason) {
 void UI_Node::DeliverDraw(inkwell::Inkwell* inkwell) const {
     const auto keep = KeepNodeAlive(this);
     inkwell::SurfaceInterface* surface = inkwell ? inkwell->GetSurface() : nullptr;
-    inkwell::SupplierInterface* supplier = inkwell ? inkwell->GetSupplier() : nullptr;
+    // The clip path comes from the surface's own supplier, the one its paths must have.
+    inkwell::SupplierInterface* supplier = surface ? surface->GetSupplier() : nullptr;
     const boost::intrusive_ptr<inkwell::PathInterface> frame(
         surface && supplier ? supplier->MakePath() : nullptr);
     if (frame) {
