@@ -165,16 +165,18 @@ int strSubstringB(lua_State* L) {
 // -- trimmed = zebString.Trim(s)
 int strTrim(lua_State* L) {
     const char* s = luaL_checkstring(L, 1);
-    return utility::RunNative(L, "Trim", [&] {
-        const char* last = s + std::strlen(s);
+    const char* first = s;
+    const char* last = s + std::strlen(s);
+    utility::RunNative(L, "Trim", [&] {
         RegexMatch leading{};
         SearchRegex("\\A[\\s]*", s, last, leading);
-        const char* first = s + leading.end;
+        first = s + leading.end;
         RegexMatch trailing{};
         SearchRegex("[\\s]*\\z", first, last, trailing);
-        lua_pushlstring(L, first, static_cast<size_t>(trailing.begin));
-        return 1;
+        last = first + trailing.begin;
     });
+    lua_pushlstring(L, first, static_cast<size_t>(last - first));
+    return 1;
 }
 
 // -- first, after = zebString.MatchB(s, pattern [, pos]); nil without a match. Both are
