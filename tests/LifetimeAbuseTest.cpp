@@ -172,6 +172,9 @@ TEST_F(LifetimeAbuseTest, SurfaceGcCalledOrRemovedLeavesTheScopeWhole) {
         "getmetatable(s).__gc = nil; s = nil; ink = nil; collectgarbage()",
         "local gc = ink.__gc; getmetatable(ink).__gc = nil; gc(ink)",
     };
+    runLua("surfaceMt = debug.getregistry()['zeblua.zebSurfaceInterface']\n"
+           "inkMt = debug.getregistry()['zeblua.zebInkwell']\n"
+           "surfaceGc, inkGc = surfaceMt.__gc, inkMt.__gc");
     for (const char* abuse : abuses) {
         runLua(std::string("assert(drawOnCanvas(function(ink)\n"
                            "  s = ink:GetSurface(); light = ink:GetSurface()\n") +
@@ -181,9 +184,7 @@ TEST_F(LifetimeAbuseTest, SurfaceGcCalledOrRemovedLeavesTheScopeWhole) {
                "for i = 1, 3 do collectgarbage() end");
         // The light value names a record that is gone, over a canvas now out of scope.
         expectEnded("light:PaintRect(rect(0, 0, 4, 4), red)", kSurfaceEnded);
-        runLua("local registry = debug.getregistry()\n"
-               "registry['zeblua.zebSurfaceInterface'].__gc = function() end\n"
-               "registry['zeblua.zebInkwell'].__gc = registry['zeblua.zebInkwell'].Release");
+        runLua("surfaceMt.__gc, inkMt.__gc = surfaceGc, inkGc");
     }
     EXPECT_TRUE(mCanvas.isClear(1, 1));
 
