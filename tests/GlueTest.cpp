@@ -197,6 +197,23 @@ TEST_F(GlueTest, BindChecksNameAndFunctionAndBindsTheLastArgument) {
     EXPECT_EQ(resultCount("bindNothing(nil, {}, 5)"), 0);
 }
 
+// A bindery made on a coroutine still calls on the main thread: the coroutine may be
+// suspended or gone by the time native code calls.
+TEST_F(GlueTest, ABinderyMadeOnACoroutineCallsOnTheMainThread) {
+    lua_State* co = lua_newthread(L);
+    TestBindery bindery(co);
+    lua_pop(L, 1);
+    installBind("bind", &bindery);
+    runLua("coroutine.wrap(function() bind(nil, 'tick', function() return coroutine.running() end) "
+           "end)()");
+    collectGarbage();  // the coroutines are gone
+    ASSERT_TRUE(bindery.pushBoundFxn("tick"));
+    EXPECT_EQ(lua_gettop(L), 1);
+    ASSERT_EQ(lua_pcall(L, 0, 1, 0), 0);
+    EXPECT_TRUE(lua_isnil(L, -1)) << "the call ran on a coroutine";
+    lua_settop(L, 0);
+}
+
 TEST_F(GlueTest, PushBoundFxnOfAnUnboundNameLeavesTheStackUnchanged) {
     TestBindery bindery(L);
     lua_pushstring(L, "below");

@@ -3,8 +3,16 @@
 
 #include <lua.hpp>
 
+#include "zebcore/debug/Debug.h"
+#include "zeblua/utility/src/MainThread.h"
+
 namespace zeblua {
 namespace utility {
+
+LuaBindery::LuaBindery(lua_State* L) : mState(GetMainThread(L)) {
+    ZEB_ASSERT_MSG(mState != nullptr, "No main thread: open the library on it before binding");
+    if (!mState) mState = L;
+}
 
 LuaBindery::~LuaBindery() {
     for (const auto& entry : mBoundFunctions)

@@ -20,8 +20,11 @@ namespace utility {
 //   if (pushBoundFxn("DoCursor")) { push the arguments on mState; CallTruthy(mState, n, ...); }
 class LuaBindery {
 public:
-    // L must outlive the object: the destructor releases the references on it.
-    explicit LuaBindery(lua_State* L) : mState(L) {}
+    // The functions are called on the main thread of L's state, never on L itself when
+    // it is a coroutine (one that may be suspended or collected by the time of a call).
+    // Where no opener has run on the main thread, L is kept, with an assertion report.
+    // The state must outlive the object: the destructor releases the references on it.
+    explicit LuaBindery(lua_State* L);
     // Releases every reference, in name order.
     virtual ~LuaBindery();
 
@@ -41,7 +44,7 @@ public:
     bool pushBoundFxn(const char* name) const;
 
 protected:
-    lua_State* mState;                           // the state the mixing class was made with
+    lua_State* mState;                           // the main thread of the state
     std::map<std::string, int> mBoundFunctions;  // operation name -> registry reference
 
 private:
