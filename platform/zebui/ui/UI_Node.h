@@ -93,7 +93,7 @@ public:
     virtual void UI_Draw(inkwell::Inkwell* inkwell) const;
     // That of the node's window: the parent's, up to the top, which has none here.
     virtual const inkwell::SupplierInterface* UI_GetDrawSupplier() const;
-    // The pre-mouse hook and the mouse hook; false: not taken.
+    // Each runs its hook, the pre-mouse hook and the mouse hook; false: not taken.
     virtual bool UI_DoPreMouseEvent(UI_Node* target, const MouseEvent& event);
     virtual bool UI_DoMouseEvent(UI_Node* target, const MouseEvent& event);
     // Whether the last mouse event went to this node, or with the flag to a descendant.
