@@ -6,6 +6,7 @@
 
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
+#include "zeblua/utility/src/LuaCallForms.h"
 #include "zeblua/utility/src/RunNative.h"
 
 namespace {
@@ -30,6 +31,12 @@ int callThenReport(lua_State* L) {
     });
 }
 
+// -- reportUnguarded(): a report made by a binding before any RunNative, as a proxy check's
+int reportUnguarded(lua_State*) {
+    ZEB_ASSERT_MSG(false, "outside RunNative");
+    return 0;
+}
+
 // -- failInside(): a Lua error raised from inside the work, skipping RunNative's guard
 int failInside(lua_State* L) {
     return RunNative(L, "failInside", [L] { return luaL_error(L, "skipped"); });
@@ -43,6 +50,7 @@ protected:
         lua_register(L, "report", report);
         lua_register(L, "callThenReport", callThenReport);
         lua_register(L, "failInside", failInside);
+        lua_register(L, "reportUnguarded", reportUnguarded);
     }
 
     static std::vector<std::string> places() {
@@ -80,6 +88,21 @@ TEST_F(RunningScriptTest, AGuardSkippedByALuaErrorLeavesNoStalePlace) {
            "report()\n");
     ZEB_ASSERT_MSG(false, "from the test");
     EXPECT_EQ(places(), (std::vector<std::string>{"test:3", ""}));
+}
+
+// A callback form keeps its state and reads the place when a report asks, so a binding's
+// report outside RunNative names the line running in the callback; a plain lua_pcall of
+// the test fixture has no guard, so the same report there names no place.
+TEST_F(RunningScriptTest, ACallbackNamesTheLineRunningWhenTheReportIsMade) {
+    runLua("function callback()\n"
+           "  local x = 1\n"
+           "  reportUnguarded()\n"
+           "  pcall(report)\n"
+           "end\n");
+    lua_getglobal(L, "callback");
+    zeblua::utility::CallNotify(L, 0);
+    runLua("reportUnguarded()");
+    EXPECT_EQ(places(), (std::vector<std::string>{"test:3", "test:4", ""}));
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "host/src/Session.h"
 #include "zebcore/debug/HostLog.h"
 #include "zebcore/utility/Strings.h"
+#include "zeblua/utility/src/RunningScript.h"
 
 namespace {
 
@@ -52,6 +53,8 @@ int runScript(lua_State* L, const char* path, int argc, char** argv, int scriptI
     }
     for (int i = scriptIndex + 1; i < argc; ++i)
         lua_pushstring(L, argv[i]);
+    // A report from native code names the script's line while the script runs.
+    const zeblua::utility::RunningScript running(L, zeblua::utility::RunningScript::kAtReport);
     if (lua_pcall(L, argc - scriptIndex - 1, 0, 1) != 0) {
         const char* message = lua_tostring(L, -1);
         std::fprintf(stderr, "zebhost: %s\n", message ? message : "(error object is not a string)");

@@ -17,27 +17,28 @@ namespace {
 constexpr int kDeepestRecord = 32;
 
 struct Record {
-    std::uintptr_t frame;  // the guard's own address: where on the C stack it lived
+    std::uintptr_t frame;     // the guard's own address: where on the C stack it lived
+    lua_State* readAtReport;  // kAtReport: the state to read then; null for kNow
     char source[LUA_IDSIZE];
-    int line;  // -1: no Lua frame (native code called from native code)
+    int line;  // -1: no Lua frame
 };
 
 Record sRecords[kDeepestRecord];
 int sDepth = 0;
 
-// Records of guards that a Lua error skipped lie at or below a new guard's address, since
-// the C stack grows downwards and a live enclosing guard is always above.
-void dropSkipped(std::uintptr_t frame) {
+// Drops the records at or below frame. The C stack grows downwards and a live enclosing
+// guard always lies above, so these are the guard's own and any that a Lua error skipped.
+void dropFrom(std::uintptr_t frame) {
     while (sDepth > 0 && sDepth <= kDeepestRecord && sRecords[sDepth - 1].frame <= frame)
         --sDepth;
 }
 
-// The innermost Lua function's place: a binding called through pcall has pcall, a C
-// function, between it and the script.
+// The innermost Lua function's place: a binding is a C function, and one called through
+// pcall has pcall, another, between it and the script.
 void readPlace(lua_State* L, Record& record) {
     record.line = -1;
     lua_Debug ar;
-    for (int level = 1; lua_getstack(L, level, &ar); ++level) {
+    for (int level = 0; lua_getstack(L, level, &ar); ++level) {
         lua_getinfo(L, "Sl", &ar);
         if (ar.currentline >= 0) {
             std::snprintf(record.source, sizeof record.source, "%s", ar.short_src);
@@ -49,7 +50,8 @@ void readPlace(lua_State* L, Record& record) {
 
 bool innermostPlace(char* place, std::size_t size) {
     for (int depth = sDepth < kDeepestRecord ? sDepth : kDeepestRecord; depth > 0; --depth) {
-        const Record& record = sRecords[depth - 1];
+        Record record = sRecords[depth - 1];
+        if (record.readAtReport) readPlace(record.readAtReport, record);
         if (record.line < 0) continue;
         std::snprintf(place, size, "%s:%d", record.source, record.line);
         return true;
@@ -70,18 +72,24 @@ const ProviderRegistration sRegistration;
 
 }  // namespace
 
-RunningScript::RunningScript(lua_State* L) {
+RunningScript::RunningScript(lua_State* L, Reading reading) {
     const auto frame = reinterpret_cast<std::uintptr_t>(this);
-    dropSkipped(frame);
+    dropFrom(frame);
     if (sDepth < kDeepestRecord) {
-        sRecords[sDepth].frame = frame;
-        readPlace(L, sRecords[sDepth]);
+        Record& record = sRecords[sDepth];
+        record.frame = frame;
+        record.readAtReport = reading == kAtReport ? L : nullptr;
+        record.line = -1;
+        if (reading == kNow) readPlace(L, record);
     }
     ++sDepth;
 }
 
 RunningScript::~RunningScript() {
-    if (sDepth > 0) --sDepth;
+    if (sDepth > kDeepestRecord)
+        --sDepth;
+    else
+        dropFrom(reinterpret_cast<std::uintptr_t>(this));
 }
 
 }  // namespace utility

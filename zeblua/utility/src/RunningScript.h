@@ -6,15 +6,23 @@ struct lua_State;
 namespace zeblua {
 namespace utility {
 
-// Marks L as running native code for the guard's lifetime: an assertion report made
-// meanwhile names the innermost Lua frame of L ("script.lua:12") beside its native place.
-// The place is read when the guard is made and copied, so the record holds nothing of L:
-// a guard that a Lua error skips (longjmp runs no destructor) leaves a record that the
-// next guard at or above its frame drops, never a pointer into a state that may be gone.
-// RunNative makes one around every binding's C++ work.
+// Marks L as running for the guard's lifetime: an assertion report made meanwhile names
+// the innermost Lua frame of L ("script.lua:12") beside its native place.
+//
+// kNow reads the place when the guard is made and copies it, so the record holds nothing of
+// L: RunNative makes one around every binding's C++ work, where a Lua error may skip the
+// guard (longjmp runs no destructor) and L may be a coroutine that is collected later. The
+// next guard at or above the skipped one's C stack frame drops its record.
+//
+// kAtReport keeps L and reads the place when a report asks, so a report from anywhere in
+// the call (a binding that checks a proxy, not only RunNative's work) finds the line
+// running then. Only for a guard around a protected call (lua_pcall returns, never jumps)
+// on a state that lives through it: the callback forms and a host's run of a script.
 class RunningScript {
 public:
-    explicit RunningScript(lua_State* L);
+    enum Reading { kNow, kAtReport };
+
+    explicit RunningScript(lua_State* L, Reading reading = kNow);
     ~RunningScript();
     RunningScript(const RunningScript&) = delete;
     RunningScript& operator=(const RunningScript&) = delete;
