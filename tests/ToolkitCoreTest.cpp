@@ -317,6 +317,52 @@ TEST_F(ToolkitCoreTest, KeyEventsGoHookThenVirtualAndBubbleUpToTheFocusedNodesAn
     EXPECT_EQ(keyEvent().GetCode().GetValue(true), unsigned(kKeyCode_A));
 }
 
+// Pointer events at global points: the node they reach, the chain they bubble along, and
+// capture from a taken down to the up, which a dying captor ends.
+TEST_F(ToolkitCoreTest, PointerEventsReachTheTopmostNodeAndStayWithTheNodeThatTookTheDown) {
+    UI_NodeManager* manager = UI_NodeManager::Get(false);
+    auto root = newView("root", RectT<float>(100, 100, 50, 50));  // origins add up
+    auto lower = newView("lower", RectT<float>(0, 0, 30, 30));
+    auto upper = newView("upper", RectT<float>(20, 20, 30, 30));
+    root->ChildPushBack(lower);
+    root->ChildPushBack(upper);
+    std::vector<std::string> log;
+    const auto taking = [&](const std::string& taken) {
+        return boost::make_shared<CustomMouseEventFunction>(
+            [&, taken](UI_Node* target, const MouseEvent& event, bool&) {
+                log.push_back(target->UI_GetNodeID() + "@" +
+                              std::to_string(int(event.GetPosition().x)));
+                return target->UI_GetNodeID() == taken && event.GetAction() != kMouseAction_Enter;
+            });
+    };
+    root->UI_SetCustomMouseEventFunction(taking("lower"));
+    lower->UI_SetCustomMouseEventFunction(taking("lower"));
+    const auto at = [](MouseAction action, float x, float y) {
+        return MouseEvent(action, kMouseButton_Left, 1, PointT<float>(x, y), 0, OS_Event(), 0, 0, 0,
+                          0, kSwipeDirection_None, 0);
+    };
+
+    // (125, 125) is under both children: the later one is on top, and bubbles to the root.
+    EXPECT_EQ(manager->HitTest(root.get(), PointT<float>(125, 125)), upper.get());
+    EXPECT_EQ(manager->DispatchMouseEventAt(root.get(), at(kMouseAction_Down, 125, 125)), nullptr);
+    EXPECT_EQ(log, (std::vector<std::string>{"upper@25"})) << "upper has no hook; root saw it";
+    log.clear();
+    upper->UI_SetDisabled(true);
+    EXPECT_EQ(manager->DispatchMouseEventAt(root.get(), at(kMouseAction_Down, 125, 125)), lower);
+    EXPECT_EQ(manager->GetMouseCapture(), lower.get());
+    EXPECT_TRUE(lower->UI_HasKeyboardFocus(false)) << "a taken down gives the focus";
+    // Captured: a drag far outside still goes to lower, in its own coordinates.
+    log.clear();
+    manager->DispatchMouseEventAt(root.get(), at(kMouseAction_Drag, 190, 110));
+    EXPECT_EQ(log, (std::vector<std::string>{"lower@90"}));
+    lower.reset();
+    root->ChildRemove(root->ChildGet(0));  // the captor dies
+    EXPECT_EQ(manager->GetMouseCapture(), nullptr);
+    EXPECT_EQ(manager->DispatchMouseEventAt(root.get(), at(kMouseAction_Up, 190, 110)), nullptr)
+        << "outside the root nothing is hit";
+    EXPECT_EQ(manager->HitTest(root.get(), PointT<float>(99, 125)), nullptr);
+}
+
 TEST_F(ToolkitCoreTest, TheCursorHookGetsThePointAndTheModifierByte) {
     auto node = newView("n");
     UI_NodeManager* manager = UI_NodeManager::Get(false);
