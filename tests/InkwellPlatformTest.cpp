@@ -395,7 +395,7 @@ TEST_F(InkwellPlatformTest, NonFiniteGeometryIsReportedAndDrawsNothing) {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     auto target = surface(10, 10);
     auto fill = brush(kRed);
-    const std::vector<std::pair<float, float>> badArcs = {{nan, 0}, {0, nan}, {inf, 0}};
+    const std::vector<std::pair<float, float>> badArcs = {{nan, 0}, {4, nan}, {inf, 0}, {4, inf}};
     for (const auto& [radius, angle] : badArcs) {
         auto arc = path();
         arc->AddArc(PointT<float>(5, 5), radius, angle, 90);
@@ -415,7 +415,7 @@ TEST_F(InkwellPlatformTest, NonFiniteGeometryIsReportedAndDrawsNothing) {
         mSupplier.MakeLinearShader(PointT<float>(0, 0), PointT<float>(10, 0), colours, stops, 2));
     target->ShadePath(*badStops, *line, true);
     EXPECT_EQ(inkedPixels(*target), 0);
-    EXPECT_EQ(reportMessages().size(), 13u);
+    EXPECT_EQ(reportMessages().size(), 16u);
     EXPECT_EQ(target->GetClipBounds(), RectT<int>(0, 0, 10, 10));  // no clip was taken
 
     // A billion degrees is one turn, drawn at once; a huge radius covers the surface.
