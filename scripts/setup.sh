@@ -8,6 +8,7 @@ packages=(
   libboost-dev libboost-regex-dev libboost-date-time-dev
   libicu-dev libcairo2-dev libpango1.0-dev libpugixml-dev
   libgtest-dev libgmock-dev libbenchmark-dev
+  valgrind clang-14 libclang-rt-14-dev
   fonts-dejavu-core
 )
 

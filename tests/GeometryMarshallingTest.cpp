@@ -1,5 +1,7 @@
 // Geometry and colour tables across the boundary, the script layer's constructors, and
 // the float to integer rounding of rectangles and points.
+#include <climits>
+#include <cmath>
 #include <sstream>
 #include <string>
 
@@ -341,6 +343,9 @@ TEST_F(GeometryMarshallingTest, ConvertRectRoundsTheEdgesThenTakesDifferences) {
         // left -0.7 -> -1, top 0.5 -> 1, right 0 -> 0, bottom 2.5 -> 3.
         {{-0.7f, 0.5f, 0.7f, 2}, zebcore::geom::kRectRound_NEAREST, {-1, 1, 1, 2}},
         {{-2.5f, -2.4f, 0, 0}, zebcore::geom::kRectRound_NEAREST, {-2, -2, 0, 0}},
+        // Beyond int, edges stop at its ends (NaN at 0), and so does the size between them.
+        {{1e10f, -1e10f, 1, 1}, zebcore::geom::kRectRound_OUT, {INT_MAX, INT_MIN, 0, 0}},
+        {{-1e10f, 0, 2e10f, NAN}, zebcore::geom::kRectRound_OUT, {INT_MIN, 0, INT_MAX, 0}},
     };
     for (const auto& c : cases) {
         const RectT<int> out = ConvertRect<RectT<int>, RectT<float>>(c.in, c.round);
@@ -370,6 +375,8 @@ TEST_F(GeometryMarshallingTest, ConvertPointRoundsBothCoordinates) {
         {{2.5f, -2.5f}, zebcore::geom::kPointRound_ROUND, {3, -2}},
         {{0.2f, -0.2f}, zebcore::geom::kPointRound_CEIL, {1, 0}},
         {{0.2f, -0.2f}, zebcore::geom::kPointRound_FLOOR, {0, -1}},
+        {{NAN, -INFINITY}, zebcore::geom::kPointRound_ROUND, {0, INT_MIN}},
+        {{3e9f, -3e9f}, zebcore::geom::kPointRound_FLOOR, {INT_MAX, INT_MIN}},
     };
     for (const auto& c : cases) {
         const PointT<int> out = ConvertPoint<PointT<int>, PointT<float>>(c.in, c.round);

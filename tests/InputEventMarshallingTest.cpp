@@ -162,6 +162,10 @@ TEST_F(InputEventMarshallingTest, MouseEventReaderConvertsEachField) {
         {"{action=0, button=0, clickCount=0, modKey=0x1FF, mouseWheelDelta=0, mouseWheelAxis=0, "
          "position={y=3, x='nope'}}",
          "0 0 0 255 0 0 0 3", ""},
+        // Beyond int, numbers stop at its ends and NaN gives 0.
+        {"{action=1, button=1/0, clickCount=-1e10, modKey=0/0, mouseWheelDelta=2^31, "
+         "mouseWheelAxis=-2^31-1, position={x=1, y=2}}",
+         "1 2147483647 -2147483648 0 2147483647 -2147483648 1 2", ""},
         {"{" + fields + "}", "none",
          "test:1: bad argument #-1 to 'readMouse' (number expected, got nil)"},
         {"{action=1, button='left', clickCount=2, modKey=0, mouseWheelDelta=0, mouseWheelAxis=0, "

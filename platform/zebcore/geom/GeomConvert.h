@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <limits>
 
 #include "zebcore/debug/Debug.h"
 
@@ -44,6 +45,17 @@ template <class T> T RoundTowards(T x, Towards towards) {
     return up == std::trunc(up) ? std::trunc(x) : std::trunc(x - T(0.5));
 }
 
+// A rounded value beyond Dest's range stops at its nearest end and NaN gives 0: a float
+// to integer conversion out of range is undefined, and scripts pass any number.
+template <class Dest, class T> Dest Saturated(T x) {
+    if (x != x) return Dest();
+    if (x <= static_cast<T>(std::numeric_limits<Dest>::min()))
+        return std::numeric_limits<Dest>::min();
+    if (x >= static_cast<T>(std::numeric_limits<Dest>::max()))
+        return std::numeric_limits<Dest>::max();
+    return static_cast<Dest>(x);
+}
+
 }  // namespace detail
 
 // ConvertRect<RectT<int>, RectT<float>>(rect, kRectRound_OUT)
@@ -72,13 +84,15 @@ DestRect ConvertRect(const SrcRect& rect, RectRound rect_round) {
         break;
     }
     const auto edge = [](auto value, Towards towards) {
-        return static_cast<Dest>(detail::RoundTowards(value, towards));
+        return detail::Saturated<Dest>(detail::RoundTowards(value, towards));
     };
     const Dest left = edge(rect.left, leftTop);
     const Dest top = edge(rect.top, leftTop);
     const Dest right = edge(rect.left + rect.width, rightBottom);
     const Dest bottom = edge(rect.top + rect.height, rightBottom);
-    return DestRect(left, top, right - left, bottom - top);
+    // Saturated edges can lie further apart than Dest reaches.
+    return DestRect(left, top, detail::Saturated<Dest>(static_cast<double>(right) - left),
+                    detail::Saturated<Dest>(static_cast<double>(bottom) - top));
 }
 
 // ConvertPoint<PointT<int>, PointT<float>>(point, kPointRound_ROUND)
@@ -101,8 +115,8 @@ DestPoint ConvertPoint(const SrcPoint& point, PointRound round) {
     case kPointRound_ROUND:
         break;
     }
-    return DestPoint(static_cast<Dest>(detail::RoundTowards(point.x, towards)),
-                     static_cast<Dest>(detail::RoundTowards(point.y, towards)));
+    return DestPoint(detail::Saturated<Dest>(detail::RoundTowards(point.x, towards)),
+                     detail::Saturated<Dest>(detail::RoundTowards(point.y, towards)));
 }
 
 }  // namespace geom

@@ -1,6 +1,9 @@
 // Keyboard and mouse event tables: made through the script layer, read back by name.
 #include "zeblua/ui/src/LuaInputEvents.h"
 
+#include <algorithm>
+#include <limits>
+
 #include <lua.hpp>
 
 #include "zeblua/utility/src/LuaTableFields.h"
@@ -60,9 +63,12 @@ void readMouseEventFields(lua_State* L, int index, MouseEventFields& fields) {
     lua_pop(L, 2);
 }
 
-// Numbers are truncated toward zero as C++ converts them.
+// Numbers are truncated toward zero as C++ converts them; beyond int's range they stop at
+// its ends and NaN gives 0, where the conversion itself would be undefined.
 int truncated(double value) {
-    return static_cast<int>(value);
+    if (value != value) return 0;
+    return static_cast<int>(std::clamp(value, static_cast<double>(std::numeric_limits<int>::min()),
+                                       static_cast<double>(std::numeric_limits<int>::max())));
 }
 
 }  // namespace
