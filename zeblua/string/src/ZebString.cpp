@@ -317,8 +317,9 @@ int GetOptionalOneBasedPos(lua_State* L, int index, int length, const char* func
     if (lua_gettop(L) < index || lua_isnil(L, index)) return defaultPos;
     luaL_checktype(L, index, LUA_TNUMBER);
     // Anything beyond either end is as wrong as one past it; NaN is no position at all.
-    lua_Integer pos = clampToInteger(lua_tonumber(L, index), -length - 1, length + 1, 0);
-    if (pos < 0) pos += length + 1;  // -1 is the last byte
+    const lua_Integer limit = lua_Integer(length) + 1;  // in lua_Integer: length may be INT_MAX
+    lua_Integer pos = clampToInteger(lua_tonumber(L, index), -limit, limit, 0);
+    if (pos < 0) pos += limit;  // -1 is the last byte
     if (pos < 1 || pos > length) {
         lua_pushfstring(L, "%s: Invalid stack position", functionName);
         return lua_error(L);
