@@ -1,4 +1,5 @@
 // The headless drawing back end: pixels, state, text, images, holders and the call log.
+#include <climits>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -288,6 +289,11 @@ TEST_F(InkwellPlatformTest, ClipBoundsFollowClipAndTransform) {
     EXPECT_EQ(target->ReadPixel(9, 30), kClear);
     EXPECT_EQ(target->ReadPixel(10, 30)[0], 255);
     EXPECT_EQ(target->ReadPixel(41, 59), kClear);
+
+    // Under a tiny scale the bounds in user space run beyond int and stop at its ends.
+    auto tiny = surface(10, 10);
+    tiny->Transform(MatrixT<float>::Scale(1e-15f, 1e-15f));
+    EXPECT_EQ(tiny->GetClipBounds(), RectT<int>(0, 0, INT_MAX, INT_MAX));
 }
 
 TEST_F(InkwellPlatformTest, StateStackRestoresTransformClipAndPolicy) {

@@ -9,6 +9,8 @@ build=$(cd "$1" && pwd)
 seconds=$2
 parallel=${3:-1}
 here=$(cd "$(dirname "$0")" && pwd)
+# Leak checks between inputs would list fontconfig's suppressed caches each time.
+export LSAN_OPTIONS=${LSAN_OPTIONS:-print_suppressions=0}
 
 if [ "${ZEBFUZZ_ONE:-}" ]; then
   name=$ZEBFUZZ_ONE
@@ -21,7 +23,7 @@ if [ "${ZEBFUZZ_ONE:-}" ]; then
     rate=$(sed -n 's/^stat::average_exec_per_sec: *//p' "$log")
     printf '%-16s %10s executions %7s/s  no finding\n' "$name" "$runs" "$rate"
   else
-    cat "$log"
+    tail -n 60 "$log" >&2
     echo "$name: a finding; the input is in $build/findings/ (log: $log)" >&2
     exit 1
   fi

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "zebcore/debug/Debug.h"
+#include "zebcore/geom/GeomConvert.h"
 #include "zebui/inkwell/BrushInterface.h"
 #include "zebui/inkwell/FontInterface.h"
 #include "zebui/inkwell/cairo/CairoBrush.h"
@@ -64,13 +65,13 @@ bool clipSourceToImage(const ImageInterface& image, zebcore::geom::RectT<float>&
     return !dest.IsEmpty();
 }
 
+// Outward to whole pixels. Under a tiny scale the extents in user space run far beyond
+// int, and then stop at its ends.
 zebcore::geom::RectT<int> clipBounds(cairo_t* context) {
     double x1, y1, x2, y2;
     cairo_clip_extents(context, &x1, &y1, &x2, &y2);
-    const int left = static_cast<int>(std::floor(x1));
-    const int top = static_cast<int>(std::floor(y1));
-    return zebcore::geom::RectT<int>(left, top, static_cast<int>(std::ceil(x2)) - left,
-                                     static_cast<int>(std::ceil(y2)) - top);
+    return zebcore::geom::ConvertRect<zebcore::geom::RectT<int>>(
+        zebcore::geom::RectT<double>(x1, y1, x2 - x1, y2 - y1), zebcore::geom::kRectRound_OUT);
 }
 
 std::string describeFont(const FontInterface& font) {
