@@ -64,6 +64,8 @@ void checkInverse(lua_State* L, const double (&values)[16]) {
         }
         lua_pop(L, 1);
     }
+    for (int i = 0; i < 16; ++i)
+        if (!std::isfinite(values[i]) || !std::isfinite(inverse[i])) return;
     const double condition = rowSumNorm(values) * rowSumNorm(inverse);
     if (!std::isfinite(condition) || condition > 1e8) return;  // too close to singular to judge
     for (int row = 0; row < 4; ++row) {
