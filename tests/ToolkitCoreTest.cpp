@@ -14,6 +14,7 @@
 #include "zebcore/debug/Debug.h"
 #include "zebcore/utility/NonOptionalDynamicCast.h"
 #include "zebcore/utility/RefCountedObject.h"
+#include "zebui/controls/UI_Checkbox.h"
 #include "zebui/controls/UI_ControlChangedMessage.h"
 #include "zebui/controls/UI_InteractiveControlView.h"
 #include "zebui/ui/KeyboardEvent.h"
@@ -565,6 +566,53 @@ TEST_F(ToolkitCoreTest, ControlsSendTypedMessagesToTheirListenersInPhaseOrder) {
         boost::make_shared<MessageFunction>([&](MessageT<UI_Node>*) { doomed.reset(); }));
     doomed->SendValueChangedMessage();
     EXPECT_EQ(doomed, nullptr);
+}
+
+// Value setters tell the listeners only of a real change, and the pointer drives the
+// phases of a change the user makes: only a left press aimed at the control itself begins.
+TEST_F(ToolkitCoreTest, ValueSettersReportRealChangesAndThePointerDrivesThePhases) {
+    const boost::intrusive_ptr<zebui::controls::UI_Checkbox> box(new zebui::controls::UI_Checkbox);
+    box->UI_SetLocalRectF(RectT<float>(0, 0, 10, 10));
+    ControlListener listener;
+    box->NotifyWhenChanged(BindMessageFunction(&listener, &ControlListener::OnChanged));
+    box->NotifyWhenChangedInteractively(
+        BindMessageFunction(&listener, &ControlListener::OnInteractive));
+
+    box->SetChecked(false);
+    box->SetChecked(true);
+    box->SetChecked(true);
+    EXPECT_EQ(listener.changes, 1) << "only false to true is a change";
+    box->SetValueUnknown();
+    box->SetValueUnknown();
+    EXPECT_EQ(listener.changes, 2) << "becoming unknown is one change";
+    box->SetChecked(true);
+    EXPECT_EQ(listener.changes, 3) << "known again, though the stored value is the same";
+    EXPECT_FALSE(box->IsValueUnknown());
+
+    const boost::intrusive_ptr<UI_SubView> child = newView("child");
+    const auto press = [](MouseAction action, int button, float x, ModifierFlags modifiers) {
+        return MouseEvent(action, button, 1, PointT<float>(x, 4), modifiers, OS_Event(), 0, 0, 0, 0,
+                          kSwipeDirection_None, 0);
+    };
+    EXPECT_FALSE(
+        box->UI_DoMouseEvent(child.get(), press(kMouseAction_Down, kMouseButton_Left, 3, 0)));
+    EXPECT_FALSE(
+        box->UI_DoMouseEvent(box.get(), press(kMouseAction_Down, kMouseButton_Right, 3, 0)));
+    EXPECT_FALSE(
+        box->UI_DoMouseEvent(box.get(), press(kMouseAction_Drag, kMouseButton_Left, 3, 0)));
+    EXPECT_FALSE(box->UI_DoMouseEvent(box.get(), press(kMouseAction_Up, kMouseButton_Left, 3, 0)));
+    EXPECT_TRUE(listener.phases.empty()) << "nothing began";
+
+    EXPECT_TRUE(box->UI_DoMouseEvent(box.get(), press(kMouseAction_Down, kMouseButton_Left, 3, 0)));
+    EXPECT_TRUE(box->UI_DoMouseEvent(
+        box.get(), press(kMouseAction_Drag, kMouseButton_Left, 30, kModifierKey_Shift)));
+    EXPECT_TRUE(box->UI_DoMouseEvent(box.get(), press(kMouseAction_Up, kMouseButton_Left, 30, 0)));
+    EXPECT_EQ(listener.phases, (std::vector<int>{0, 11, 20}));
+    EXPECT_TRUE(box->IsChecked()) << "released outside the box: no toggle";
+    box->UI_DoMouseEvent(box.get(), press(kMouseAction_Down, kMouseButton_Left, 3, 0));
+    box->UI_DoMouseEvent(box.get(), press(kMouseAction_Up, kMouseButton_Left, 9, 0));
+    EXPECT_FALSE(box->IsChecked()) << "released inside: toggled";
+    EXPECT_EQ(listener.changes, 4);
 }
 
 }  // namespace

@@ -8,5 +8,17 @@ UI_Checkbox::UI_Checkbox() = default;
 
 UI_Checkbox::~UI_Checkbox() = default;
 
+void UI_Checkbox::SetChecked(bool checked) {
+    ChangeValue(mChecked, checked);
+}
+
+void UI_Checkbox::UI_TrackPointer(InteractiveChangePhase phase,
+                                  const zebcore::geom::PointT<float>& where) {
+    const zebcore::geom::RectT<float> frame = UI_GetLocalRectF(false);
+    const bool inside =
+        where.x >= 0 && where.y >= 0 && where.x < frame.width && where.y < frame.height;
+    if (phase == kInteractiveChange_Finish && inside) SetChecked(!mChecked);
+}
+
 }  // namespace controls
 }  // namespace zebui

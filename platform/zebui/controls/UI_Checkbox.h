@@ -6,10 +6,22 @@
 namespace zebui {
 namespace controls {
 
+// A click toggles it: the up of a press that began on the box, inside the box. The new
+// value is reported before the change's finish.
 class UI_Checkbox : public UI_InteractiveControlView {
 public:
     UI_Checkbox();
     ~UI_Checkbox() override;
+
+    bool IsChecked() const { return mChecked; }
+    void SetChecked(bool checked);
+
+protected:
+    void UI_TrackPointer(InteractiveChangePhase phase,
+                         const zebcore::geom::PointT<float>& where) override;
+
+private:
+    bool mChecked = false;
 };
 
 }  // namespace controls

@@ -30,7 +30,9 @@ void UI_ControlView::SetDisabled(bool disabled) {
 }
 
 void UI_ControlView::SetValueUnknown() {
+    if (mValueUnknown) return;
     mValueUnknown = true;
+    SendValueChangedMessage();
 }
 
 void UI_ControlView::SetSuppressFocusDrawing(bool suppress) {

@@ -12,7 +12,12 @@ namespace controls {
 // The value itself belongs to each control class; this base keeps the listeners and
 // the state every control shares. Listeners are kept until the node dies and are
 // called in the order they were added. Each gets a pointer to a message that lives
-// only for the call: a UI_ControlChangedMessage here.
+// only for the call: a UI_ControlChangedMessage here. A listener emptied by its owner
+// (MessageFunction::clear) is skipped: that is how an owner that dies before the node
+// stops being called.
+//
+// Value setters tell the listeners only about a real change, so a listener that sets
+// the value it has just read back ends the exchange instead of looping.
 class UI_ControlView : public ui::UI_SubView {
 public:
     UI_ControlView();
@@ -29,13 +34,21 @@ public:
     virtual void SetDisabled(bool disabled);
     bool IsDisabled() const { return UI_IsDisabled(); }
     // The value is unknown (a mixed state) until a control class sets a value again.
+    // Becoming unknown is a change of value, reported as one.
     virtual void SetValueUnknown();
     bool IsValueUnknown() const { return mValueUnknown; }
     virtual void SetSuppressFocusDrawing(bool suppress);
     bool GetSuppressFocusDrawing() const { return mSuppressFocusDrawing; }
 
 protected:
-    void ClearValueUnknown() { mValueUnknown = false; }
+    // The one way a control class sets its value: stores value and reports the change,
+    // unless stored already holds it and the value was known.
+    template <class Value> void ChangeValue(Value& stored, const Value& value) {
+        if (stored == value && !mValueUnknown) return;
+        stored = value;
+        mValueUnknown = false;
+        SendValueChangedMessage();
+    }
     // Calls each listener with the message, through copies, so that a listener may add
     // listeners or drop the last reference to the control.
     void SendToListeners(const std::vector<ui::MessageFunctionP>& listeners,

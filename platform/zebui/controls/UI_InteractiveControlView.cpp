@@ -1,6 +1,8 @@
 // Interactive control views.
 #include "zebui/controls/UI_InteractiveControlView.h"
 
+#include "zebui/ui/MouseEvent.h"
+
 namespace zebui {
 namespace controls {
 
@@ -31,6 +33,33 @@ void UI_InteractiveControlView::CancelInteractiveChange() {
     mInInteractiveChange = false;
     sendPhase(kInteractiveChange_Cancel, 0);
 }
+
+bool UI_InteractiveControlView::UI_DoMouseEvent(ui::UI_Node* target, const ui::MouseEvent& event) {
+    if (UI_ControlView::UI_DoMouseEvent(target, event)) return true;
+    const zebcore::geom::PointT<float>& where = event.GetPosition();
+    switch (event.GetAction()) {
+    case ui::kMouseAction_Down:
+        if (target != this || event.GetButton() != ui::kMouseButton_Left) return false;
+        UI_TrackPointer(kInteractiveChange_Begin, where);
+        BeginInteractiveChange();
+        return true;
+    case ui::kMouseAction_Drag:
+        if (!mInInteractiveChange) return false;
+        UI_TrackPointer(kInteractiveChange_Continue, where);
+        ContinueInteractiveChange(event.GetModKey());
+        return true;
+    case ui::kMouseAction_Up:
+        if (!mInInteractiveChange) return false;
+        UI_TrackPointer(kInteractiveChange_Finish, where);
+        FinishInteractiveChange();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void UI_InteractiveControlView::UI_TrackPointer(InteractiveChangePhase,
+                                                const zebcore::geom::PointT<float>&) {}
 
 void UI_InteractiveControlView::sendPhase(InteractiveChangePhase phase,
                                           ui::ModifierFlags modifiers) {

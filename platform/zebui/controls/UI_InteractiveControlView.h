@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "zebcore/geom/PointT.h"
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/controls/UI_InteractiveControlChangedMessage.h"
 #include "zebui/ui/InputCodes.h"
@@ -15,6 +16,13 @@ namespace controls {
 // The phases aren't policed: a phase called out of order is still reported, since
 // scripts can drive them for testing. A control class that changes its value during a
 // phase sends the plain value change message itself.
+//
+// The pointer drives the phases: a left-button down aimed at the control itself (not
+// one bubbling up from a child) begins a change and takes the event, so the pointer is
+// captured; each drag continues it with the drag's modifier keys, and the up finishes
+// it. Before each phase is reported the class sees where the pointer is
+// (UI_TrackPointer), so a listener of the phase reads the value it led to. A bound
+// mouse hook that takes the event leaves the control out.
 class UI_InteractiveControlView : public UI_ControlView {
 public:
     UI_InteractiveControlView();
@@ -28,6 +36,14 @@ public:
     virtual void CancelInteractiveChange();
     // Between a begin and its finish or cancel.
     bool IsInInteractiveChange() const { return mInInteractiveChange; }
+
+    bool UI_DoMouseEvent(ui::UI_Node* target, const ui::MouseEvent& event) override;
+
+protected:
+    // The pointer at phase, in the control's own coordinates, just before the phase is
+    // reported: where a class moves its value. The plain control has none to move.
+    virtual void UI_TrackPointer(InteractiveChangePhase phase,
+                                 const zebcore::geom::PointT<float>& where);
 
 private:
     void sendPhase(InteractiveChangePhase phase, ui::ModifierFlags modifiers);
