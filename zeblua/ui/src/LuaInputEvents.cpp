@@ -108,7 +108,7 @@ bool GetMouseEventFromLua(lua_State* L, int index, std::unique_ptr<MouseEvent>& 
 
     // Every read has succeeded: from here on nothing raises.
     const auto action = static_cast<MouseEvent::Action>(static_cast<unsigned int>(fields.action));
-    const auto modKey = static_cast<unsigned char>(truncated(fields.modKey) & 0xFF);
+    const zebui::ui::ModifierFlags modKey = ModifiersFromNumber(fields.modKey);
     const zebcore::geom::PointT<float> position(static_cast<float>(fields.x),
                                                 static_cast<float>(fields.y));
     event.reset(new MouseEvent(action, truncated(fields.button), truncated(fields.clickCount),
@@ -116,6 +116,10 @@ bool GetMouseEventFromLua(lua_State* L, int index, std::unique_ptr<MouseEvent>& 
                                truncated(fields.mouseWheelDelta), truncated(fields.mouseWheelAxis),
                                0.0f, 0.0f, zebui::ui::kSwipeDirection_None, 0));
     return true;
+}
+
+zebui::ui::ModifierFlags ModifiersFromNumber(double value) {
+    return static_cast<unsigned char>(truncated(value) & 0xFF);
 }
 
 }  // namespace ui

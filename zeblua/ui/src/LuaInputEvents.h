@@ -4,6 +4,8 @@
 
 #include <memory>
 
+#include "zebui/ui/InputCodes.h"
+
 struct lua_State;
 
 namespace zebui {
@@ -41,6 +43,10 @@ int PushMouseEventToLua(lua_State* L, const zebui::ui::MouseEvent& event);
 // caller's frame: pass an empty unique_ptr and hold no other C++ object there.
 // (A std::unique_ptr, as std::auto_ptr is gone from C++17.)
 bool GetMouseEventFromLua(lua_State* L, int index, std::unique_ptr<zebui::ui::MouseEvent>& event);
+
+// A script's number as the modifier byte: truncated toward zero (stopping at int's ends,
+// NaN giving 0), then cut to its low 8 bits.
+zebui::ui::ModifierFlags ModifiersFromNumber(double value);
 
 }  // namespace ui
 }  // namespace zeblua

@@ -1,10 +1,11 @@
-// The protected calls behind every bound operation.
+// The protected calls behind every bound operation and change function.
 #include "zeblua/ui/src/ZebOperationCalls.h"
 
 #include <lua.hpp>
 
 #include "zeblua/inkwell/src/InkProxyObjs/InkwellProxy.h"
 #include "zeblua/inkwell/src/LuaInkwellTypeUtils.h"
+#include "zeblua/ui/src/LuaBinder.h"
 #include "zeblua/ui/src/LuaControlWrapperFactory.h"
 #include "zeblua/ui/src/LuaFunctionEntry.h"
 #include "zeblua/ui/src/LuaInputEvents.h"
@@ -34,6 +35,8 @@ struct BoundCall {
     const zebcore::geom::RectT<float>* rect;
     lua_Number number;
     zebui::inkwell::Inkwell* inkwell;
+    zebui::controls::UI_ControlChangedMessage* changed;
+    zebui::controls::UI_InteractiveControlChangedMessage* interactive;
     bool result;
 };
 
@@ -91,7 +94,7 @@ bool run(const LuaFunctionEntry& entry, BoundCall& call, lua_CFunction body) {
 BoundCall newCall(const LuaFunctionEntry& entry, BoundAnswer answer,
                   int (*pushArguments)(lua_State*, const BoundCall&)) {
     return BoundCall{entry.reference, answer, pushArguments, nullptr, nullptr, nullptr, nullptr,
-                     nullptr,         0,      nullptr,       false};
+                     nullptr,         0,      nullptr,       nullptr, nullptr, false};
 }
 
 int pushTarget(lua_State* L, const BoundCall& call) {
@@ -121,6 +124,18 @@ int pushRect(lua_State* L, const BoundCall& call) {
 int pushNumber(lua_State* L, const BoundCall& call) {
     lua_pushnumber(L, call.number);
     return 1;
+}
+
+int pushControlMessage(lua_State* L, const BoundCall& call) {
+    int count = 0;
+    LuaBinder::PushControlMessage(L, call.changed, count);
+    return count;
+}
+
+int pushInteractiveMessage(lua_State* L, const BoundCall& call) {
+    int count = 0;
+    LuaBinder::PushInteractiveControlMessage(L, call.interactive, *call.target, count);
+    return count;
 }
 
 }  // namespace
@@ -174,6 +189,22 @@ bool CallBoundRect(const LuaFunctionEntry& entry, const zebcore::geom::RectT<flo
 void CallBoundFocusChange(const LuaFunctionEntry& entry, zebui::ui::FocusChangeReason reason) {
     BoundCall call = newCall(entry, BoundAnswer::kNotify, pushNumber);
     call.number = reason;
+    run(entry, call, protectedCall);
+}
+
+void CallBoundControlChanged(const LuaFunctionEntry& entry,
+                             zebui::controls::UI_ControlChangedMessage* message) {
+    BoundCall call = newCall(entry, BoundAnswer::kNotify, pushControlMessage);
+    call.changed = message;
+    run(entry, call, protectedCall);
+}
+
+void CallBoundInteractiveChange(const LuaFunctionEntry& entry,
+                                zebui::controls::UI_InteractiveControlChangedMessage* message,
+                                const boost::intrusive_ptr<zebui::ui::UI_Node>& control) {
+    BoundCall call = newCall(entry, BoundAnswer::kNotify, pushInteractiveMessage);
+    call.target = &control;
+    call.interactive = message;
     run(entry, call, protectedCall);
 }
 

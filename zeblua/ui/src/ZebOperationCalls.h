@@ -1,4 +1,4 @@
-// Calls from a node's operations into the Lua functions bound to them.
+// Calls from a node's operations and change messages into the Lua functions bound to them.
 #pragma once
 
 #include <boost/intrusive_ptr.hpp>
@@ -8,6 +8,10 @@
 #include "zebui/ui/InputCodes.h"
 
 namespace zebui {
+namespace controls {
+class UI_ControlChangedMessage;
+class UI_InteractiveControlChangedMessage;
+}  // namespace controls
 namespace inkwell {
 class Inkwell;
 }  // namespace inkwell
@@ -63,6 +67,16 @@ bool CallBoundRect(const LuaFunctionEntry& entry, const zebcore::geom::RectT<flo
 
 // The focus change reason as a number. Notify.
 void CallBoundFocusChange(const LuaFunctionEntry& entry, zebui::ui::FocusChangeReason reason);
+
+// A change function: no arguments. Notify.
+void CallBoundControlChanged(const LuaFunctionEntry& entry,
+                             zebui::controls::UI_ControlChangedMessage* message);
+
+// An interactive change function: the message table, with a new wrapper of control, the
+// sender, held by the caller. Notify.
+void CallBoundInteractiveChange(const LuaFunctionEntry& entry,
+                                zebui::controls::UI_InteractiveControlChangedMessage* message,
+                                const boost::intrusive_ptr<zebui::ui::UI_Node>& control);
 
 }  // namespace ui
 }  // namespace zeblua
