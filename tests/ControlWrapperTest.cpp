@@ -419,7 +419,8 @@ TEST_F(ControlWrapperTest, FactoryPicksTheWrapperOfEachClass) {
     const std::vector<std::pair<Make, const char*>> cases = {
         {[] { return new zc::UI_StaticText; }, "zebStaticText"},
         {[&] {
-             return new zu::UI_Dialog(nullptr, u"title", origin, origin, false, nullptr, true,
+             zu::UI_Node* const noOwner = nullptr;
+             return new zu::UI_Dialog(nullptr, u"title", origin, origin, false, noOwner, true,
                                       false, true, true, 0, 1);
          },
          "zebLuaDialog"},

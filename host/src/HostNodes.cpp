@@ -11,7 +11,6 @@
 #include <lua.hpp>
 
 #include "zeblua/ui/src/LuaControlWrapperBase.h"
-#include "zeblua/ui/src/LuaControlWrapperFactory.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_Button.h"
@@ -78,13 +77,6 @@ const NodeClass kNodeClasses[] = {
     {"UI_ArrangementView", make<zebui::ui::UI_ArrangementView>},
 };
 
-// Runs inside the protected call of PushWrapperOf: the held node at 1.
-int pushWrapperProtected(lua_State* L) {
-    const NodeP& node = *static_cast<const NodeP*>(lua_touserdata(L, 1));
-    zeblua::ui::LuaControlWrapperFactory(node, L);
-    return 1;
-}
-
 // Pushes the names of the known classes, separated by ", ".
 void pushKnownNames(lua_State* L) {
     luaL_Buffer names;
@@ -120,21 +112,6 @@ const luaL_Reg kNodeFunctions[] = {
 };
 
 }  // namespace
-
-void PrepareWrapperPush(lua_State* L) {
-    luaL_checkstack(L, 2, "zebhost: cannot grow the stack for a wrapper");
-    lua_pushcfunction(L, pushWrapperProtected);
-}
-
-bool FinishWrapperPush(lua_State* L, const NodeP& node) {
-    if (!node) {
-        lua_pop(L, 1);
-        lua_pushnil(L); /* in the slot just freed: no allocation */
-        return true;
-    }
-    lua_pushlightuserdata(L, const_cast<NodeP*>(&node));
-    return lua_pcall(L, 1, 1, 0) == 0;
-}
 
 zebui::ui::UI_Node* CheckNodeArgument(lua_State* L, int index) {
     zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, index);

@@ -4,6 +4,8 @@
 
 #include <boost/intrusive_ptr.hpp>
 
+#include "zeblua/ui/src/ControlWrapperPush.h"
+
 struct lua_State;
 
 namespace zebui {
@@ -22,18 +24,9 @@ namespace zebhost {
 //       ones. The script layer adds optional id, frame and parent arguments.
 void OpenHostNodes(lua_State* L);
 
-// Pushing a node's wrapper from a frame that holds C++ objects, in two steps:
-//   PrepareWrapperPush(L);                                   // may raise: nothing held yet
-//   const bool pushed = RunNative(L, "...", [&] {
-//       const boost::intrusive_ptr<UI_Node> node = ...;
-//       return FinishWrapperPush(L, node);                   // never raises
-//   });
-//   return pushed ? 1 : lua_error(L);                        // raised with nothing held
-// Prepare reserves the stack and pushes the protected pusher; Finish replaces it with a
-// new wrapper of node from the factory (nil for null), or with the error message of a
-// failed push, and answers whether it worked.
-void PrepareWrapperPush(lua_State* L);
-bool FinishWrapperPush(lua_State* L, const boost::intrusive_ptr<zebui::ui::UI_Node>& node);
+// Pushing a node's wrapper from a frame that holds C++ objects: the library's two steps.
+using zeblua::ui::FinishWrapperPush;
+using zeblua::ui::PrepareWrapperPush;
 
 // The node of the wrapper at index: "Bad user data" for anything but a wrapper, an
 // argument error for a released one.

@@ -10,6 +10,10 @@ class UI_Button : public UI_InteractiveControlView {
 public:
     UI_Button();
     ~UI_Button() override;
+
+protected:
+    // A raised rect: the face of every button that draws no other.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 };
 
 }  // namespace controls

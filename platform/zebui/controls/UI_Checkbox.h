@@ -17,6 +17,8 @@ public:
     void SetChecked(bool checked);
 
 protected:
+    // A box at the left, as tall as the control up to 14 units.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
     void UI_TrackPointer(InteractiveChangePhase phase,
                          const zebcore::geom::PointT<float>& where) override;
 

@@ -10,6 +10,10 @@ class UI_DisclosureTriangleButton : public UI_TextButton {
 public:
     UI_DisclosureTriangleButton();
     ~UI_DisclosureTriangleButton() override;
+
+protected:
+    // A triangle pointing right, in place of the button's face.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 };
 
 }  // namespace controls

@@ -10,6 +10,10 @@ class UI_Divider : public UI_ControlView {
 public:
     UI_Divider();
     ~UI_Divider() override;
+
+protected:
+    // A two-unit line across the middle, along the longer side.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 };
 
 }  // namespace controls

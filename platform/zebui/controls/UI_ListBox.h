@@ -10,6 +10,10 @@ class UI_ListBox : public UI_InteractiveControlView {
 public:
     UI_ListBox(bool first, bool second, bool third, bool fourth);
     ~UI_ListBox() override;
+
+protected:
+    // A sunken field that its items lie on.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 };
 
 }  // namespace controls

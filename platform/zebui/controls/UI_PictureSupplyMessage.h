@@ -6,6 +6,7 @@
 #include "zebcore/utility/Flags.h"
 #include "zebui/inkwell/ImageInterface.h"
 #include "zebui/ui/MessageT.h"
+#include "zebui/ui/NodeFunctions.h"
 
 namespace zebui {
 namespace ui {
@@ -21,6 +22,11 @@ public:
 
     UI_PictureSupplyMessage(const ui::UI_Node* control, StateFlags stateFlags);
     ~UI_PictureSupplyMessage() override;
+
+    // What a picture control draws: the image that supply hands a new message from
+    // control in that state, null without a supply function or an answer.
+    static boost::intrusive_ptr<inkwell::ImageInterface>
+    Ask(const ui::ConstMessageFunctionP& supply, const ui::UI_Node* control, StateFlags stateFlags);
 
     const ui::UI_Node* GetControl() const { return GetSender(); }
     // The drawing state of the control: mask 1 pressed, mask 2 the pointer over it; mask 4

@@ -10,6 +10,10 @@ class UI_RadioButton : public UI_InteractiveControlView {
 public:
     UI_RadioButton();
     ~UI_RadioButton() override;
+
+protected:
+    // A round button at the left, as tall as the control up to 14 units.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 };
 
 }  // namespace controls

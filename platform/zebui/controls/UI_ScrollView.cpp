@@ -4,8 +4,11 @@
 namespace zebui {
 namespace controls {
 
-UI_ScrollView::UI_ScrollView(zebcore::utility::Flags<unsigned int> /*flags*/,
-                             const boost::intrusive_ptr<ui::UI_SubView>& /*contentView*/) {}
+UI_ScrollView::UI_ScrollView(ScrollFlags flags,
+                             const boost::intrusive_ptr<ui::UI_SubView>& contentView)
+    : mFlags(flags), mContentView(contentView) {
+    if (contentView) ChildPushBack(contentView);
+}
 
 UI_ScrollView::~UI_ScrollView() = default;
 

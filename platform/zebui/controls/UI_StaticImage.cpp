@@ -1,6 +1,9 @@
 // A control that shows an image.
 #include "zebui/controls/UI_StaticImage.h"
 
+#include "zebui/controls/ControlFace.h"
+#include "zebui/controls/UI_PictureSupplyMessage.h"
+
 namespace zebui {
 namespace controls {
 
@@ -10,6 +13,11 @@ UI_StaticImage::~UI_StaticImage() = default;
 
 void UI_StaticImage::SetImageName(const zebcore::UTF8String& name) {
     mImageName = name;
+}
+
+void UI_StaticImage::UI_DrawFace(inkwell::Inkwell* inkwell) const {
+    face::DrawImage(inkwell, UI_PictureSupplyMessage::Ask(GetImageSupplyFunction(), this, 0),
+                    face::Bounds(*this));
 }
 
 }  // namespace controls

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "zebcore/utility/Strings.h"
+#include "zebui/controls/PictureSupplyClient.h"
 #include "zebui/controls/UI_ControlView.h"
 
 namespace zebui {
 namespace controls {
 
 // Shows the image its picture supply function hands it for the name.
-class UI_StaticImage : public UI_ControlView {
+class UI_StaticImage : public UI_ControlView, public PictureSupplyClient {
 public:
     UI_StaticImage();
     ~UI_StaticImage() override;
@@ -16,6 +17,10 @@ public:
     // 8-bit text, kept as given; empty means no image.
     void SetImageName(const zebcore::UTF8String& name);
     const zebcore::UTF8String& GetImageName() const { return mImageName; }
+
+protected:
+    // The supplied image, plain state, scaled to the whole control.
+    void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 
 private:
     zebcore::UTF8String mImageName;

@@ -4,7 +4,7 @@
 namespace zebui {
 namespace ui {
 
-OS_ViewContainer::OS_ViewContainer(bool /*flag*/) {}
+OS_ViewContainer::OS_ViewContainer(bool popsUp) : mPopsUp(popsUp) {}
 
 OS_ViewContainer::~OS_ViewContainer() = default;
 

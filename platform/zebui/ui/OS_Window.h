@@ -11,7 +11,18 @@ namespace ui {
 class OS_Window : public UI_Node {
 public:
     OS_Window();
+    // A window that draws with supplier (which outlives it); null as the plain window.
+    explicit OS_Window(const inkwell::SupplierInterface* supplier);
     ~OS_Window() override;
+
+    // The window's own supplier, else none (a window has no parent to ask).
+    const inkwell::SupplierInterface* UI_GetDrawSupplier() const override;
+    // The frame on the screen, window decorations included, in whole units; headless
+    // windows have no decorations, so it is the local rect.
+    virtual void UI_SetGlobalStructureRect(const zebcore::geom::RectT<int>& rect);
+
+private:
+    const inkwell::SupplierInterface* mSupplier = nullptr;
 };
 
 }  // namespace ui

@@ -109,11 +109,14 @@ void UI_Node::UI_UpdateNow(RedrawFlags flags) {
 void UI_Node::UI_Draw(inkwell::Inkwell* inkwell) const {
     const CustomDrawFunctionP hook = mDrawFunction;  // may replace itself while it runs
     if (hook && !hook->empty() && (*hook)(this, inkwell)) return;
+    UI_DrawFace(inkwell);
     // A copy, since a child's draw hook may change the list.
     const ChildList children(ChildBegin(), ChildEnd());
     for (const auto& child : children)
         if (child->UI_IsShown()) UI_DispatchDrawToChild(child.get(), inkwell);
 }
+
+void UI_Node::UI_DrawFace(inkwell::Inkwell* /*inkwell*/) const {}
 
 const inkwell::SupplierInterface* UI_Node::UI_GetDrawSupplier() const {
     return mParent ? mParent->UI_GetDrawSupplier() : nullptr;

@@ -87,9 +87,9 @@ public:
     // Records the request, then draws a shown node at once through DeliverDraw, onto
     // pixels of the default supplier that stand in for its window's.
     virtual void UI_UpdateNow(RedrawFlags flags);
-    // The draw hook; unless it did the drawing, the shown children in order through
-    // UI_DispatchDrawToChild. inkwell may be null (nothing to draw on): the calls still
-    // happen, so a hook sees them.
+    // The draw hook; unless it did the drawing, the node's face (UI_DrawFace), then the
+    // shown children in order through UI_DispatchDrawToChild. inkwell may be null (nothing
+    // to draw on): the calls still happen, so a hook sees them.
     virtual void UI_Draw(inkwell::Inkwell* inkwell) const;
     // That of the node's window: the parent's, up to the top, which has none here.
     virtual const inkwell::SupplierInterface* UI_GetDrawSupplier() const;
@@ -185,6 +185,11 @@ public:
     // top-left corner), clipped to the node's size, with the surface's state saved around
     // it. The draw pass of a tree starts here at its top.
     void DeliverDraw(inkwell::Inkwell* inkwell) const;
+
+protected:
+    // A control's own face, drawn by UI_Draw after the draw hook left the drawing to the
+    // node and before the children, so they lie on top. The plain node has none.
+    virtual void UI_DrawFace(inkwell::Inkwell* inkwell) const;
 
 private:
     friend class UI_Container;

@@ -2,11 +2,14 @@
 #include "zebworkspace/workspace/Workspace.h"
 
 #include "zebui/ui/UI_NodeManager.h"
+#include "zebworkspace/workspace/TopLevelWindow.h"
 
 namespace zebworkspace {
 namespace workspace {
 
-Workspace::Workspace() = default;
+Workspace::Workspace() : mMainWindow(new TopLevelWindow) {
+    mMainWindow->UI_SetNodeID("mainTopLevelWindow");
+}
 
 Workspace::~Workspace() = default;
 

@@ -1,6 +1,8 @@
 // The application's workspace: the frame of windows, tabs and tool panels.
 #pragma once
 
+#include <boost/intrusive_ptr.hpp>
+
 namespace zebui {
 namespace inkwell {
 class SupplierInterface;
@@ -10,7 +12,9 @@ class SupplierInterface;
 namespace zebworkspace {
 namespace workspace {
 
-// Headless, the workspace has no windows yet: only what drawing outside a draw message
+class TopLevelWindow;
+
+// Headless, the workspace has its main window and what drawing outside a draw message
 // needs of it.
 class Workspace {
 public:
@@ -21,6 +25,12 @@ public:
 
     // The supplier the workspace's windows draw with: the node manager's default one.
     zebui::inkwell::SupplierInterface* GetSupplier() const;
+    // The application's main window, hidden, with the node id "mainTopLevelWindow". It
+    // lives as long as the workspace: dialogs without an owner of their own belong to it.
+    TopLevelWindow* GetMainTopLevelWindow() const { return mMainWindow.get(); }
+
+private:
+    boost::intrusive_ptr<TopLevelWindow> mMainWindow;
 };
 
 }  // namespace workspace

@@ -2,11 +2,13 @@
 #include "zeblua/ui/src/ImageProvider.h"
 
 #include "vex/app/App.h"
+#include "zebui/controls/PictureSupplyClient.h"
 #include "zebui/controls/UI_PictureButton.h"
 #include "zebui/controls/UI_PictureSupplyMessage.h"
 #include "zebui/controls/UI_PictureTextButton.h"
 #include "zebui/controls/UI_StaticImage.h"
 #include "zebui/ui/IconType.h"
+#include "zebui/ui/MessageFunctionAdapter.h"
 #include "zebui/utility/InkwellImageResourceCache.h"
 #include "zebworkspace/workspace/Workspace.h"
 
@@ -50,6 +52,11 @@ ImageProvider* ImageProvider::GetInstance() {
 }
 
 ImageProvider::~ImageProvider() = default;
+
+void ImageProvider::InstallImageSupply(zebui::controls::PictureSupplyClient& control) {
+    control.SetImageSupplyFunction(
+        zebui::ui::BindConstMessageFunction(GetInstance(), &ImageProvider::ProvideImage));
+}
 
 void ImageProvider::ProvideImage(UI_PictureSupplyMessage* message) {
     GetThemeImage(message, true, true);

@@ -9,6 +9,7 @@
 
 namespace zebui {
 namespace controls {
+class PictureSupplyClient;
 class UI_PictureSupplyMessage;
 }  // namespace controls
 }  // namespace zebui
@@ -25,6 +26,9 @@ public:
     virtual ~ImageProvider();
     ImageProvider(const ImageProvider&) = delete;
     ImageProvider& operator=(const ImageProvider&) = delete;
+
+    // Makes ProvideImage the control's picture supply function.
+    static void InstallImageSupply(zebui::controls::PictureSupplyClient& control);
 
     void ProvideImage(zebui::controls::UI_PictureSupplyMessage* message);
     void ProvideImage_NoRollover(zebui::controls::UI_PictureSupplyMessage* message);

@@ -4,6 +4,7 @@
 #include <lua.hpp>
 
 #include "zeblua/ui/src/LuaCheckboxWrapper.h"
+#include "zeblua/ui/src/LuaControlConstructors.h"
 #include "zeblua/ui/src/LuaControlViewWrapper.h"
 #include "zeblua/ui/src/LuaDialogWrapper.h"
 #include "zeblua/ui/src/LuaDividerWrapper.h"
@@ -109,10 +110,6 @@ const luaL_Reg kRowGC[] = {
     {nullptr, nullptr},
 };
 
-const luaL_Reg kControlFunctions[] = {
-    {nullptr, nullptr},
-};
-
 // Pushes the registry metatable name, its own __index.
 void newSelfIndexedMetatable(lua_State* L, const char* name) {
     luaL_newmetatable(L, name);
@@ -152,7 +149,7 @@ int luaopen_LuaControls(lua_State* L) {
     registerRowMetatable(L);
     registerControlMetatables(L, kMetatablesAfterRow);
     InitZebControls(L);
-    luaL_register(L, "zebcontrols", kControlFunctions);
+    luaL_register(L, "zebcontrols", kControlConstructors);
     return 1;
 }
 

@@ -4,9 +4,9 @@
 namespace zeblua {
 namespace ui {
 
-LuaPopupWindow::LuaPopupWindow(lua_State* /*L*/,
-                               const zebui::inkwell::SupplierInterface* /*supplier*/,
-                               bool /*floating*/) {}
+LuaPopupWindow::LuaPopupWindow(lua_State* /*L*/, const zebui::inkwell::SupplierInterface* supplier,
+                               bool floating)
+    : OS_Window(supplier), mFloating(floating) {}
 
 LuaPopupWindow::~LuaPopupWindow() = default;
 
