@@ -18,3 +18,8 @@ echo "== drawing offscreen with zebhost.canvas (examples/drawing.lua)"
 png="$(dirname "$build")/examples/drawing.png"
 "$build/bin/zebhost" examples/drawing.lua "$png"
 echo "open $png to see the drawing"
+echo
+echo "== a panel of controls from zebcontrols, drawn by the toolkit (examples/controls.lua)"
+png="$(dirname "$build")/examples/controls.png"
+"$build/bin/zebhost" examples/controls.lua "$png"
+echo "open $png to see the panel"
