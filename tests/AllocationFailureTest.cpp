@@ -188,4 +188,47 @@ TEST_F(AllocationFailureTest, DrawingAndGlueFunctionsLeaveNothingBehind) {
     EXPECT_EQ(leaks(), 0);
 }
 
+// Every constructor of zebcontrols: a failure in the wrapper's push comes after the new
+// node exists, and must neither leak it nor leave a wrapper without its metatable.
+TEST_F(AllocationFailureTest, ControlConstructorsLeaveNothingBehind) {
+    runLua(R"(
+        require "zeblua.zebcontrols"
+        function sweepControls(ink)
+            local C, supplier = zebcontrols, ink:GetSupplier()
+            local owner = C.NewSubView()
+            local calls = {
+                NewDialogOwned = function()
+                    keep(C.NewDialog(supplier, long, point(1, 2), point(3, 4), owner))
+                end,
+                NewDialogMain = function() keep(C.NewDialog(supplier, long, {}, {}, nil)) end,
+                NewPictureButton = function() keep(C.NewPictureButton(long)) end,
+                NewStaticImage = function() keep(C.NewStaticImage(long)) end,
+                NewSearchBox = function() keep(C.NewSearchBox(true, true)) end,
+                NewScrollView = function() keep(C.NewScrollView(1, keep(C.NewSubView()))) end,
+                NewPopupWindow = function() keep(C.NewPopupWindow(supplier, true)) end,
+                NewTextEdit = function() keep(C.NewTextEdit(1, 2, 14)) end,
+            }
+            for _, name in ipairs({"NewCheckbox", "NewRadioButton", "NewMultiColumnTree",
+                    "NewHotTextButton", "NewHotTextNumber", "NewHotTextTimecode", "NewKnob",
+                    "NewListBox", "NewStaticText", "NewTextButton", "NewDisclosureTriangleButton",
+                    "NewSubView", "NewOverlaySubView", "NewPopupViewContainer", "NewPopup",
+                    "NewSplitterView", "NewArrangementView", "NewSectionView", "NewDivider",
+                    "NewTabWell", "NewWebView"}) do
+                calls[name] = function()
+                    local control = keep(C[name]())
+                    assert(getmetatable(control) ~= nil, name .. " without its metatable")
+                end
+            end
+            problems = sweep(calls)
+            owner:Release()
+            releaseKept()
+        end
+    )");
+    draw(mCanvas.inkwell, "sweepControls");
+    EXPECT_EQ(luaValue("problems"), "");
+    EXPECT_EQ(luaValue("swept"), "29");
+    collectGarbage();
+    EXPECT_EQ(leaks(), 0);
+}
+
 }  // namespace
