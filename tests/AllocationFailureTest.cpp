@@ -104,7 +104,8 @@ TEST_F(AllocationFailureTest, StringAndNumericFunctionsLeaveNothingBehind) {
         })
     )");
     EXPECT_EQ(luaValue("problems"), "");
-    EXPECT_EQ(luaValue("swept"), "11");
+    // ToLower and UTF16to8 of long give long again, which Lua holds already: no allocation.
+    EXPECT_EQ(luaValue("swept"), "9");
     collectGarbage();
     EXPECT_EQ(leaks(), 0);
 }

@@ -2,8 +2,11 @@
 #include "zeblua/string/src/StringRegex.h"
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 #include <iterator>
 #include <limits>
+#include <locale>
 
 #include <boost/regex.hpp>
 
@@ -15,9 +18,53 @@ namespace {
 using ByteTraits = boost::regex_traits<char, boost::cpp_regex_traits<char>>;
 using ByteRegex = boost::basic_regex<char, ByteTraits>;
 
-// Perl syntax, case sensitive; scripts can pass no other syntax flag.
-ByteRegex compile(const char* pattern) {
-    return ByteRegex(pattern, boost::regex_constants::normal);
+// Compiling costs several times the search a script then runs, and scripts call these
+// functions in loops over a few constant patterns. The cache is process-wide and holds no
+// Lua value: a key is a copy of the bytes, so no state's strings are named.
+class PatternCache {
+public:
+    // The compiled pattern, valid until the next call. Perl syntax, case sensitive;
+    // scripts can pass no other syntax flag. Throws for a bad pattern, keeping nothing.
+    const ByteRegex& compiled(std::string_view pattern) {
+        const std::locale global;
+        ++mClock;
+        Entry* oldest = &mEntries[0];
+        for (Entry& entry : mEntries) {
+            if (entry.lastUse != 0 && entry.bytes.size() == pattern.size() &&
+                std::memcmp(entry.bytes.data(), pattern.data(), pattern.size()) == 0 &&
+                entry.locale == global) {
+                entry.lastUse = mClock;
+                return entry.regex;
+            }
+            if (entry.lastUse < oldest->lastUse) oldest = &entry;
+        }
+        ByteRegex regex(pattern.data(), boost::regex_constants::normal);  // up to a zero byte
+        oldest->lastUse = 0;  // empty until whole: the copy of the bytes may throw
+        oldest->bytes.assign(pattern.data(), pattern.size());
+        oldest->locale = global;
+        oldest->regex.swap(regex);
+        oldest->lastUse = mClock;
+        return oldest->regex;
+    }
+
+private:
+    // Few, so that a scan costs less than a hash; enough for the patterns of a loop.
+    static constexpr std::size_t kCapacity = 16;
+
+    struct Entry {
+        std::string bytes;
+        std::locale locale;
+        ByteRegex regex;
+        unsigned long long lastUse = 0;  // 0: empty
+    };
+
+    std::array<Entry, kCapacity> mEntries;
+    unsigned long long mClock = 0;
+};
+
+const ByteRegex& compiled(std::string_view pattern) {
+    static PatternCache sCache;
+    return sCache.compiled(pattern);
 }
 
 // Byte reads left to the whole of one ReplaceB call.
@@ -114,9 +161,11 @@ private:
 
 }  // namespace
 
-bool SearchRegex(const char* pattern, const char* first, const char* last, RegexMatch& match) {
-    const ByteRegex regex = compile(pattern);
-    boost::cmatch found;
+bool SearchRegex(std::string_view pattern, const char* first, const char* last, RegexMatch& match) {
+    const ByteRegex& regex = compiled(pattern);
+    // Kept, so that its storage is allocated once; a search runs no script, so no other
+    // search can begin while it is in use.
+    static boost::cmatch found;
     // No match_prev_avail: the search base is first, never the bytes before it.
     if (!boost::regex_search(first, last, found, regex, boost::regex_constants::match_default))
         return false;
@@ -125,11 +174,11 @@ bool SearchRegex(const char* pattern, const char* first, const char* last, Regex
     return true;
 }
 
-void ReplaceRegex(const char* pattern, const char* text, const char* first, const char* last,
+void ReplaceRegex(std::string_view pattern, const char* text, const char* first, const char* last,
                   const char* format, bool firstOnly, std::string& out) {
-    const ByteRegex regex = compile(pattern);
+    const ByteRegex& regex = compiled(pattern);
     ReadBudget budget(last - first,
-                      static_cast<std::ptrdiff_t>(std::char_traits<char>::length(pattern)));
+                      static_cast<std::ptrdiff_t>(std::char_traits<char>::length(pattern.data())));
     out.assign(text, first);
     const auto flags = firstOnly ? boost::regex_constants::format_first_only
                                  : boost::regex_constants::format_default;

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace zeblua {
 namespace string {
@@ -13,11 +14,17 @@ struct RegexMatch {
     std::ptrdiff_t end;
 };
 
-// Searches [first, last) for pattern, compiled anew on each call, one element per byte.
-// first is the beginning of the text: "^" and "\A" hold there and look-behind sees nothing
-// before it. A bad pattern throws boost::regex_error, a std::runtime_error, and so does a
-// search whose backtracking goes past Boost's complexity bound.
-bool SearchRegex(const char* pattern, const char* first, const char* last, RegexMatch& match);
+// A pattern is a Lua string or a literal: its bytes up to the first zero byte are the
+// expression, as C strings end, and its data is followed by a zero byte. The last few
+// patterns compiled are kept, by all their bytes and by the global locale (which the
+// byte traits take when they compile), so a script's loop over one pattern compiles it
+// once; a pattern that does not compile is not kept, so it throws at every call.
+
+// Searches [first, last) for pattern, one element per byte. first is the beginning of the
+// text: "^" and "\A" hold there and look-behind sees nothing before it. A bad pattern
+// throws boost::regex_error, a std::runtime_error, and so does a search whose
+// backtracking goes past Boost's complexity bound.
+bool SearchRegex(std::string_view pattern, const char* first, const char* last, RegexMatch& match);
 
 // Sets out to the bytes [text, first) unchanged, then [first, last) with each match of
 // pattern, or only the first when firstOnly, replaced by the Perl format string. Throws as
@@ -25,7 +32,7 @@ bool SearchRegex(const char* pattern, const char* first, const char* last, Regex
 // the bytes of the range may be looked at as often as one search of it may visit states,
 // plus a fixed number of times each, so a pattern that backtracks at every match throws
 // instead of running for minutes.
-void ReplaceRegex(const char* pattern, const char* text, const char* first, const char* last,
+void ReplaceRegex(std::string_view pattern, const char* text, const char* first, const char* last,
                   const char* format, bool firstOnly, std::string& out);
 
 }  // namespace string

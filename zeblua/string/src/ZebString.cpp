@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <climits>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <locale>
 #include <string>
@@ -16,7 +17,6 @@
 #include "zebcore/utility/Strings.h"
 #include "zeblua/string/src/StringRegex.h"
 #include "zeblua/utility/src/LuaModule.h"
-#include "zeblua/utility/src/LuaResultString.h"
 #include "zeblua/utility/src/RunNative.h"
 
 namespace zeblua {
@@ -52,16 +52,28 @@ int positionLength(size_t length) {
 
 enum class ResultEnd { kFirstZero, kWholeString };
 
-// The C++ work of a function whose one result is a string: work fills a string that Lua
-// owns, so nothing in a C++ frame is left to leak when the final push runs out of memory.
+// The result of every function below is built in this one string, not in a C++ frame: when
+// the final push runs out of memory nothing is left to leak, and its storage serves the
+// next call. Work never runs script, so no call can begin while another fills it.
+std::string& resultBuffer() {
+    static std::string sBuffer;
+    return sBuffer;
+}
+
+// A result above this size gives its storage back once it is pushed.
+constexpr std::size_t kLargestKeptResult = 64 * 1024;
+
+// The C++ work of a function whose one result is a string: work fills the result buffer.
 template <typename Work>
 int returnString(lua_State* L, const char* functionName, ResultEnd end, Work work) {
-    std::string* out = utility::PushResultString(L);
-    utility::RunNative(L, functionName, [&] { work(*out); });
+    std::string& out = resultBuffer();
+    out.clear();
+    utility::RunNative(L, functionName, [&] { work(out); });
     if (end == ResultEnd::kFirstZero)
-        lua_pushstring(L, out->c_str());
+        lua_pushstring(L, out.c_str());
     else
-        lua_pushlstring(L, out->data(), out->size());
+        lua_pushlstring(L, out.data(), out.size());
+    if (out.capacity() > kLargestKeptResult) std::string().swap(out);
     return 1;
 }
 
@@ -184,12 +196,13 @@ int strTrim(lua_State* L) {
 int strMatchB(lua_State* L) {
     size_t length = 0;
     const char* s = luaL_checklstring(L, 1, &length);
-    const char* pattern = luaL_checkstring(L, 2);
+    size_t patternLength = 0;
+    const char* pattern = luaL_checklstring(L, 2, &patternLength);
     const int pos = GetOptionalOneBasedPos(L, 3, positionLength(length), "MatchB", 1);
     return utility::RunNative(L, "MatchB", [&] {
         const char* first = s + pos - 1;
         RegexMatch match{};
-        if (!SearchRegex(pattern, first, first + std::strlen(first), match)) {
+        if (!SearchRegex({pattern, patternLength}, first, first + std::strlen(first), match)) {
             lua_pushnil(L);
             return 1;
         }
@@ -204,7 +217,8 @@ int strMatchB(lua_State* L) {
 int strReplaceB(lua_State* L) {
     size_t length = 0;
     const char* s = luaL_checklstring(L, 1, &length);
-    const char* pattern = luaL_checkstring(L, 2);
+    size_t patternLength = 0;
+    const char* pattern = luaL_checklstring(L, 2, &patternLength);
     const char* format = luaL_checkstring(L, 3);
     const int pos = GetOptionalOneBasedPos(L, 4, positionLength(length), "ReplaceB", 1);
     bool firstOnly = false;
@@ -213,7 +227,7 @@ int strReplaceB(lua_State* L) {
         firstOnly = !lua_toboolean(L, 5);
     }
     return returnString(L, "ReplaceB", ResultEnd::kFirstZero, [&](std::string& out) {
-        ReplaceRegex(pattern, s, s + pos - 1, s + length, format, firstOnly, out);
+        ReplaceRegex({pattern, patternLength}, s, s + pos - 1, s + length, format, firstOnly, out);
     });
 }
 

@@ -3,11 +3,21 @@
 
 #include <lua.hpp>
 
+#include "zeblua/utility/src/RegistryTables.h"
+#include "zeblua/utility/src/RunningScript.h"
+
 namespace zeblua {
 namespace utility {
 namespace {
 
 char sMainThreadKey;  // its address keys registry[key] = main thread
+char sCloseWatchKey;  // a registry table whose sentinel tells when the state closes
+
+// The close sentinel's: lua_close runs finalizers on the main thread.
+int forgetClosingThread(lua_State* L) {
+    ForgetMainThread(L);
+    return 0;
+}
 
 lua_State* recordedMainThread(lua_State* L) {
     lua_checkstack(L, 1);
@@ -22,13 +32,15 @@ lua_State* recordedMainThread(lua_State* L) {
 
 void RecordMainThread(lua_State* L) {
     lua_checkstack(L, 2);
-    if (lua_pushthread(L) == 1) { /* L, the main thread, on top */
-        lua_pushlightuserdata(L, &sMainThreadKey);
-        lua_insert(L, -2);
-        lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = L */
-    } else {
-        lua_pop(L, 1);
-    }
+    const bool isMain = lua_pushthread(L) == 1;
+    lua_pop(L, 1);
+    if (!isMain || recordedMainThread(L) == L) return;
+    PushOrMakeRegistryTable(L, &sCloseWatchKey, nullptr, forgetClosingThread);
+    lua_pop(L, 1);
+    RememberMainThread(L); /* only once the sentinel will forget it */
+    lua_pushlightuserdata(L, &sMainThreadKey);
+    lua_pushthread(L);
+    lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = L */
 }
 
 lua_State* GetMainThread(lua_State* L) {

@@ -18,13 +18,23 @@ constexpr int kDeepestRecord = 32;
 
 struct Record {
     std::uintptr_t frame;     // the guard's own address: where on the C stack it lived
-    lua_State* readAtReport;  // kAtReport: the state to read then; null for kNow
+    lua_State* readAtReport;  // the state to read when a report asks; null: place copied
     char source[LUA_IDSIZE];
     int line;  // -1: no Lua frame
 };
 
 Record sRecords[kDeepestRecord];
 int sDepth = 0;
+
+// Main threads that outlive every guard made on them, as their close forgets them first.
+constexpr int kMostStates = 8;
+lua_State* sRememberedThreads[kMostStates];
+
+bool isRemembered(lua_State* L) {
+    for (lua_State* remembered : sRememberedThreads)
+        if (remembered == L) return true;
+    return false;
+}
 
 // Drops the records at or below frame. The C stack grows downwards and a live enclosing
 // guard always lies above, so these are the guard's own and any that a Lua error skipped.
@@ -78,9 +88,9 @@ RunningScript::RunningScript(lua_State* L, Reading reading) {
     if (sDepth < kDeepestRecord) {
         Record& record = sRecords[sDepth];
         record.frame = frame;
-        record.readAtReport = reading == kAtReport ? L : nullptr;
+        record.readAtReport = reading == kAtReport || isRemembered(L) ? L : nullptr;
         record.line = -1;
-        if (reading == kNow) readPlace(L, record);
+        if (!record.readAtReport) readPlace(L, record);
     }
     ++sDepth;
 }
@@ -90,6 +100,23 @@ RunningScript::~RunningScript() {
         --sDepth;
     else
         dropFrom(reinterpret_cast<std::uintptr_t>(this));
+}
+
+void RememberMainThread(lua_State* L) {
+    if (isRemembered(L)) return;
+    for (lua_State*& slot : sRememberedThreads) {
+        if (!slot) {
+            slot = L;
+            return;
+        }
+    }
+}
+
+void ForgetMainThread(lua_State* L) {
+    for (lua_State*& slot : sRememberedThreads)
+        if (slot == L) slot = nullptr;
+    for (Record& record : sRecords)
+        if (record.readAtReport == L) record.readAtReport = nullptr;  // line stays -1: no place
 }
 
 }  // namespace utility

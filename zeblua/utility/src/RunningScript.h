@@ -9,10 +9,12 @@ namespace utility {
 // Marks L as running for the guard's lifetime: an assertion report made meanwhile names
 // the innermost Lua frame of L ("script.lua:12") beside its native place.
 //
-// kNow reads the place when the guard is made and copies it, so the record holds nothing of
-// L: RunNative makes one around every binding's C++ work, where a Lua error may skip the
-// guard (longjmp runs no destructor) and L may be a coroutine that is collected later. The
-// next guard at or above the skipped one's C stack frame drops its record.
+// kNow is RunNative's, around every binding's C++ work, where a Lua error may skip the guard
+// (longjmp runs no destructor) and L may be a coroutine that is collected later; the next
+// guard at or above the skipped one's C stack frame drops its record. So it keeps L only
+// when L is a main thread the library remembers (RememberMainThread), which lives until its
+// state closes, and reads the place when a report asks; on any other state it reads the
+// place when the guard is made and copies it, so the record holds nothing of L.
 //
 // kAtReport keeps L and reads the place when a report asks, so a report from anywhere in
 // the call (a binding that checks a proxy, not only RunNative's work) finds the line
@@ -27,6 +29,14 @@ public:
     RunningScript(const RunningScript&) = delete;
     RunningScript& operator=(const RunningScript&) = delete;
 };
+
+// L is the main thread of a state that calls ForgetMainThread(L) as it closes (a close
+// sentinel, see MainThread): until then kNow guards on L read the place only when a report
+// asks, which costs nothing when none is made. A few states at a time; beyond them guards
+// read at once.
+void RememberMainThread(lua_State* L);
+// L's state is closing: no record reads L after this, and guards read at once again.
+void ForgetMainThread(lua_State* L);
 
 }  // namespace utility
 }  // namespace zeblua
