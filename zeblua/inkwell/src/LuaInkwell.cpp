@@ -99,8 +99,10 @@ int inkwellGetSurface(lua_State* L) {
                                    false);
     });
     surface->inkwell = proxy->inkwell;
-    if (first) {
+    if (first && proxy->scopeDepth == 0) {
         // surfaceProxy is a bare address: the record lives at least as long as this proxy.
+        // A guard's proxy needs none of this: its scope's slot holds the record until the
+        // proxy has ended, and an ended proxy never reads surfaceProxy.
         lua_pushvalue(L, -1);
         KeepWithProxy(L, 1, kKeptScopedSurface);
     }
@@ -191,8 +193,7 @@ const luaL_Reg kInkwellMethods[] = {
 }  // namespace
 
 InkwellProxy* zeblua_checkInkwell(lua_State* L, int index) {
-    return static_cast<InkwellProxy*>(
-        utility::CheckProxyBlock(L, index, kZebLuaInkwellMetaTableName));
+    return static_cast<InkwellProxy*>(CheckDrawingProxy(L, index, DrawingKind::kInkwell));
 }
 
 bool InkwellInScope(const InkwellProxy* proxy) {

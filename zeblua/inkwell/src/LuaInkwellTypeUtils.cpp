@@ -65,6 +65,34 @@ bool tableToRead(lua_State* L, int index) {
     return !lua_isnil(L, -1);
 }
 
+// The raw values of the fields, when every one is a number. __index runs only for an absent
+// key, so then lua_gettable would have given the same values and run no script, in any
+// order. False when one is not: the caller reads again the full way, with its __index
+// order and its errors.
+template <std::size_t N>
+bool rawNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
+                lua_Number (&values)[N]) {
+    for (std::size_t i = 0; i < N; ++i) {
+        lua_rawgeti(L, keys, fields[i]);
+        lua_rawget(L, index);
+        const bool isNumber = lua_type(L, -1) == LUA_TNUMBER;
+        values[i] = lua_tonumber(L, -1);
+        lua_pop(L, 1);
+        if (!isNumber) return false;
+    }
+    return true;
+}
+
+// Reads the number fields into values: raw when all are numbers, else each by
+// CheckNumberField in the order given.
+template <std::size_t N>
+void readNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
+                 lua_Number (&values)[N]) {
+    if (rawNumbers(L, index, keys, fields, values)) return;
+    for (std::size_t i = 0; i < N; ++i)
+        values[i] = CheckNumberField(L, index, keys, fields[i]);
+}
+
 // CheckNumberField's form with luaL_checkinteger and lua_tointeger.
 lua_Integer integerField(lua_State* L, int index, int keys, Key key) {
     lua_rawgeti(L, keys, key);
@@ -116,22 +144,20 @@ int callConstructor(lua_State* L, Key constructor, const T (&elements)[N]) {
 void GetPointF32FromLua(lua_State* L, int index, PointT<float>& point) {
     if (!tableToRead(L, index)) return;
     const int keys = sKeys.Push(L);
-    const lua_Number x = CheckNumberField(L, index, keys, kX);
-    const lua_Number y = CheckNumberField(L, index, keys, kY);
+    lua_Number v[2];
+    readNumbers(L, index, keys, {kX, kY}, v);
     lua_pop(L, 1);
-    point = PointT<float>(static_cast<float>(x), static_cast<float>(y));
+    point = PointT<float>(static_cast<float>(v[0]), static_cast<float>(v[1]));
 }
 
 void GetRectF32FromLua(lua_State* L, int index, RectT<float>& rect) {
     if (!tableToRead(L, index)) return;
     const int keys = sKeys.Push(L);
-    const lua_Number top = CheckNumberField(L, index, keys, kTop);
-    const lua_Number left = CheckNumberField(L, index, keys, kLeft);
-    const lua_Number height = CheckNumberField(L, index, keys, kHeight);
-    const lua_Number width = CheckNumberField(L, index, keys, kWidth);
+    lua_Number v[4]; /* top, left, height, width */
+    readNumbers(L, index, keys, {kTop, kLeft, kHeight, kWidth}, v);
     lua_pop(L, 1);
-    rect = RectT<float>(static_cast<float>(left), static_cast<float>(top),
-                        static_cast<float>(width), static_cast<float>(height));
+    rect = RectT<float>(static_cast<float>(v[1]), static_cast<float>(v[0]),
+                        static_cast<float>(v[3]), static_cast<float>(v[2]));
 }
 
 void GetRect32FromLua(lua_State* L, int index, RectT<int>& rect) {
@@ -149,13 +175,11 @@ void GetRect32FromLua(lua_State* L, int index, RectT<int>& rect) {
 void GetColorRGBAFromLua(lua_State* L, int index, ColorRGBA& colour) {
     if (!tableToRead(L, index)) return;
     const int keys = sKeys.Push(L);
-    const lua_Number red = CheckNumberField(L, index, keys, kRed);
-    const lua_Number green = CheckNumberField(L, index, keys, kGreen);
-    const lua_Number blue = CheckNumberField(L, index, keys, kBlue);
-    const lua_Number alpha = CheckNumberField(L, index, keys, kAlpha);
+    lua_Number v[4];
+    readNumbers(L, index, keys, {kRed, kGreen, kBlue, kAlpha}, v);
     lua_pop(L, 1);
-    colour = ColorRGBA(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue),
-                       static_cast<float>(alpha));
+    colour = ColorRGBA(static_cast<float>(v[0]), static_cast<float>(v[1]), static_cast<float>(v[2]),
+                       static_cast<float>(v[3]));
 }
 
 void GetMatrixF32FromLua(lua_State* L, int index, MatrixT<float>& matrix) {

@@ -537,7 +537,7 @@ const luaL_Reg kSurfaceMethods[] = {
 }  // namespace
 
 InkwellProxy* zeblua_checkSurface(lua_State* L, int index) {
-    utility::CheckProxyBlock(L, index, kZebLuaSurfaceMetaTableName);
+    CheckDrawingProxy(L, index, DrawingKind::kSurface);
     return SurfaceRecordAt(L, index);
 }
 

@@ -2,11 +2,10 @@
 // code names by a bare address stays allocated while it is named.
 #include "zeblua/inkwell/src/InkProxyObjs/InkwellProxy.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <iterator>
-#include <list>
-#include <map>
 #include <new>
+#include <vector>
 
 #include <lua.hpp>
 
@@ -30,45 +29,172 @@ using utility::PushRegistryTable;
 using zebui::inkwell::Inkwell;
 using zebui::inkwell::SurfaceInterface;
 
-// Scoped surface records by the Inkwell whose scope ends them. Lua owns the records;
-// each listed one is anchored (sScopeAnchorsKey) until it leaves the list, so only
-// lua_close can free a listed record, and the anchors' close sentinel unlists it first.
-std::map<Inkwell*, std::list<InkwellProxy*>> sLinkedObjects;
+// A listed surface record, the Inkwell whose scope ends it, and where it is anchored: a slot
+// of the scope table, or 0 for the anchor table of records made outside a guard.
+struct LinkedRecord {
+    Inkwell* inkwell;
+    InkwellProxy* record;
+    int slot;
+};
+
+// Scoped surface records in the order they were listed. Lua owns the records; each listed
+// one is anchored until it leaves the list, so only lua_close can free a listed record,
+// and the anchors' close sentinels unlist it first. Few at a time: a flat vector.
+std::vector<LinkedRecord> sLinkedObjects;
+
+// Guards open, across all states; a guard's anchor slots are numbered by its depth.
+int sScopeDepth = 0;
 
 // What a light userdata that names no surface record stands for. Only ever nulled.
-InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0};
+InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0, 0};
 
 // Registry keys, by address.
-// One anchor table holds the Inkwell proxy of every open scope and every listed surface
-// record: few live keys at a time, so a new key mostly takes a released one's slot, and a
-// scope costs no table of its own. One weak table per slot, so that keeping a value costs
-// no table per proxy either. The live records are weak-valued: an entry goes when the
-// collector takes its record, whether or not a __gc runs, so a light userdata is checked
-// there and never against memory that may be gone.
+// The scope table, one per state: the two kinds' registered and ended metatables, then two
+// anchor slots per guard depth, its Inkwell proxy and the surface record it made. Integer
+// keys in the table's array part, so a scope hashes nothing but the table's own key, and a
+// slot is only ever set again, never added, once the deepest scope has been open.
+// The anchor table holds the records listed for an Inkwell made outside a guard. One weak
+// table per slot, so that keeping a value costs no table per proxy either. The live
+// records are weak-valued: an entry goes when the collector takes its record, whether or
+// not a __gc runs, so a light userdata is checked there and never against memory that may
+// be gone.
+char sScopeTableKey;                          // see kInkwellMetatable and anchorSlot
 char sScopeAnchorsKey;                        // [lightud(record)] = its userdata
 char sLiveRecordsKey;                         // weak values: [lightud(record)] = its userdata
 char sKeptValuesKeys[kKeptBoundSurface + 1];  // per KeptSlot, weak keys: [proxy] = value
 
-// The record leaves every list it is in.
-void unlist(const InkwellProxy* record) {
-    for (auto entry = sLinkedObjects.begin(); entry != sLinkedObjects.end();) {
-        entry->second.remove(const_cast<InkwellProxy*>(record));
-        entry = entry->second.empty() ? sLinkedObjects.erase(entry) : std::next(entry);
-    }
+enum ScopeTableSlot {
+    kInkwellMetatable = 1,
+    kEndedInkwellMetatable,
+    kSurfaceMetatable,
+    kEndedSurfaceMetatable,
+    kFirstAnchorSlot,
+};
+
+// The anchor of depth's Inkwell proxy; the next slot is its surface record's.
+int anchorSlot(int depth) {
+    return kFirstAnchorSlot + 2 * (depth - 1);
 }
 
-// The anchors' close sentinel: a scope still open when the state closes (an Inkwell proxy
-// made outside a guard, or an owned Inkwell a script stripped of its __gc) must not leave
-// the state's records listed once their memory goes.
+int metatableSlot(DrawingKind kind, bool ended) {
+    if (kind == DrawingKind::kInkwell) return ended ? kEndedInkwellMetatable : kInkwellMetatable;
+    return ended ? kEndedSurfaceMetatable : kSurfaceMetatable;
+}
+
+// The record leaves the list.
+void unlist(const InkwellProxy* record) {
+    sLinkedObjects.erase(
+        std::remove_if(sLinkedObjects.begin(), sLinkedObjects.end(),
+                       [record](const LinkedRecord& linked) { return linked.record == record; }),
+        sLinkedObjects.end());
+}
+
+// A close sentinel of both anchor tables: a scope still open when the state closes (an
+// Inkwell proxy made outside a guard, or an owned Inkwell a script stripped of its __gc, or
+// a guard a Lua error skipped) must not leave the state's records listed once their memory
+// goes. Metatables in the scope table are no records, and unlisting them finds nothing.
 int unlistAnchoredRecords(lua_State* L) {
-    PushRegistryTable(L, &sScopeAnchorsKey);
-    if (!lua_istable(L, -1)) return 0;
-    lua_pushnil(L);
-    while (lua_next(L, -2)) { /* anchors, key, userdata */
+    for (const void* key : {&sScopeAnchorsKey, &sScopeTableKey}) {
+        PushRegistryTable(L, key);
+        if (lua_istable(L, -1)) {
+            lua_pushnil(L);
+            while (lua_next(L, -2)) { /* table, key, value */
+                if (lua_type(L, -1) == LUA_TUSERDATA)
+                    unlist(static_cast<const InkwellProxy*>(lua_touserdata(L, -1)));
+                lua_pop(L, 1);
+            }
+        }
         lua_pop(L, 1);
-        unlist(static_cast<const InkwellProxy*>(lua_touserdata(L, -1)));
     }
     return 0;
+}
+
+// The ended form of the registered metatable on top of the stack, pushed above it: the same
+// __index and __tostring, no __gc, and "__metatable" answering the registered table.
+void pushEndedMetatable(lua_State* L) {
+    lua_createtable(L, 0, 3);
+    for (const char* field : {"__index", "__tostring"}) {
+        lua_getfield(L, -2, field);
+        lua_setfield(L, -2, field);
+    }
+    lua_pushvalue(L, -2);
+    lua_setfield(L, -2, "__metatable");
+}
+
+// Puts the registered metatable of metatableName, opening its module first if need be, and
+// its ended form in the scope table on top of the stack.
+void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
+                    utility::ModuleOpener opener) {
+    luaL_getmetatable(L, metatableName);
+    if (lua_isnil(L, -1)) {
+        lua_pop(L, 1);
+        lua_pushcfunction(L, opener);
+        lua_call(L, 0, 0);
+        luaL_getmetatable(L, metatableName);
+    }
+    pushEndedMetatable(L);                          /* T, registered, ended */
+    lua_rawseti(L, -3, metatableSlot(kind, true));  /* T, registered */
+    lua_rawseti(L, -2, metatableSlot(kind, false)); /* T */
+}
+
+// Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
+int pushScopeTable(lua_State* L) {
+    PushRegistryTable(L, &sScopeTableKey);
+    if (!lua_istable(L, -1)) {
+        lua_pop(L, 1);
+        lua_createtable(L, kFirstAnchorSlot + 8, 0);
+        fillMetatables(L, DrawingKind::kInkwell, kZebLuaInkwellMetaTableName,
+                       luaopen_zebluaInkwell);
+        fillMetatables(L, DrawingKind::kSurface, kZebLuaSurfaceMetaTableName,
+                       luaopen_zebSurfaceInterface);
+        // Named in the registry only once whole, with the sentinel of its anchors.
+        PushOrMakeRegistryTable(L, &sScopeAnchorsKey, nullptr, unlistAnchoredRecords);
+        lua_pop(L, 1);
+        lua_pushlightuserdata(L, &sScopeTableKey);
+        lua_pushvalue(L, -2);
+        lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = T */
+    }
+    return lua_gettop(L);
+}
+
+// A new userdata for a record, with the kind's registered metatable from the scope table at
+// tableIndex.
+InkwellProxy* newScopedRecord(lua_State* L, int tableIndex, DrawingKind kind,
+                              const InkwellProxy& fields) {
+    auto* record = new (lua_newuserdata(L, sizeof(InkwellProxy))) InkwellProxy(fields);
+    lua_rawgeti(L, tableIndex, metatableSlot(kind, false));
+    lua_setmetatable(L, -2);
+    return record;
+}
+
+// Ends the record in slot of the scope table at tableIndex, if any, gives it its kind's
+// ended metatable and lets it go; raises no Lua error. A record is ended here even if it
+// never made it into the list.
+void endAnchored(lua_State* L, int tableIndex, int slot, DrawingKind kind) {
+    lua_rawgeti(L, tableIndex, slot);
+    if (lua_type(L, -1) == LUA_TUSERDATA) {
+        InvalidateProxy(static_cast<InkwellProxy*>(lua_touserdata(L, -1)));
+        lua_rawgeti(L, tableIndex, metatableSlot(kind, true));
+        lua_setmetatable(L, -2);
+        lua_pushnil(L);
+        lua_rawseti(L, tableIndex, slot); /* a present slot: no allocation */
+    }
+    lua_pop(L, 1);
+}
+
+// Slots of depth still holding records belong to a guard that a Lua error skipped (longjmp
+// runs no destructor): they are ended and unlisted before the slots are used again, so no
+// listed record is ever let go. Raises no Lua error.
+void endSkippedScope(lua_State* L, int tableIndex, int depth) {
+    for (const int slot : {anchorSlot(depth), anchorSlot(depth) + 1}) {
+        lua_rawgeti(L, tableIndex, slot);
+        const void* record = lua_touserdata(L, -1);
+        lua_pop(L, 1);
+        if (!record) continue;
+        unlist(static_cast<const InkwellProxy*>(record));
+        endAnchored(L, tableIndex, slot,
+                    slot == anchorSlot(depth) ? DrawingKind::kInkwell : DrawingKind::kSurface);
+    }
 }
 
 // Holds the userdata on top of the stack (left there), whose block is record, until
@@ -114,26 +240,69 @@ int absoluteIndex(lua_State* L, int index) {
     return index > 0 ? index : lua_gettop(L) + index + 1;
 }
 
+// Unlists every record listed under inkwell.
+void unlistInkwell(Inkwell* inkwell) {
+    sLinkedObjects.erase(
+        std::remove_if(sLinkedObjects.begin(), sLinkedObjects.end(),
+                       [inkwell](const LinkedRecord& linked) { return linked.inkwell == inkwell; }),
+        sLinkedObjects.end());
+}
+
 }  // namespace
 
 AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& argCount)
-    : mL(L), mProxy(nullptr) {
-    newProxyFromInkwell(L, inkwell, &mProxy);
-    anchor(L, mProxy); /* for the scope */
+    : mL(L), mProxy(nullptr), mDepth(sScopeDepth + 1) {
+    lua_checkstack(L, 4);
+    const int table = pushScopeTable(L);
+    endSkippedScope(L, table, mDepth);
+    mProxy = newScopedRecord(L, table, DrawingKind::kInkwell,
+                             InkwellProxy{inkwell, nullptr, nullptr, false, 0, mDepth});
+    lua_pushvalue(L, -1);
+    lua_rawseti(L, table, anchorSlot(mDepth)); /* the last push that can raise */
+    lua_remove(L, table);
+    sScopeDepth = mDepth;
     argCount = 1;
 }
 
+// The surface records of enclosing scopes on the same Inkwell end here too, but stay in
+// their slots until their own scope closes, since their Inkwell proxies still name them.
 AcquireInkwellProxy::~AcquireInkwellProxy() {
     popScriptStates(*mProxy);
     EndInkwellScope(mL, mProxy->inkwell);
-    InvalidateProxy(mProxy);
-    releaseAnchor(mL, mProxy);
+    lua_checkstack(mL, 3);
+    PushRegistryTable(mL, &sScopeTableKey);
+    const int table = lua_gettop(mL);
+    endAnchored(mL, table, anchorSlot(mDepth) + 1, DrawingKind::kSurface);
+    endAnchored(mL, table, anchorSlot(mDepth), DrawingKind::kInkwell);
+    lua_pop(mL, 1);
+    sScopeDepth = mDepth - 1;
+}
+
+void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind) {
+    const char* metatableName =
+        kind == DrawingKind::kInkwell ? kZebLuaInkwellMetaTableName : kZebLuaSurfaceMetaTableName;
+    void* block = lua_touserdata(L, index);
+    if (block && lua_getmetatable(L, index)) { /* mt */
+        PushRegistryTable(L, &sScopeTableKey);
+        bool matches = false;
+        if (lua_istable(L, -1)) {
+            for (const bool ended : {false, true}) {
+                lua_rawgeti(L, -1, metatableSlot(kind, ended));
+                matches = matches || lua_rawequal(L, -1, -3);
+                lua_pop(L, 1);
+            }
+        }
+        lua_pop(L, 2);
+        if (matches) return block;
+    }
+    // No scope has opened in this state yet, or not one of these: the plain check decides.
+    return utility::CheckProxyBlock(L, index, metatableName);
 }
 
 int newProxyFromInkwell(lua_State* L, Inkwell* inkwell, InkwellProxy** out) {
     auto* proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaInkwellMetaTableName,
                                               luaopen_zebluaInkwell))
-        InkwellProxy{inkwell, nullptr, nullptr, false, 0};
+        InkwellProxy{inkwell, nullptr, nullptr, false, 0, 0};
     if (out) *out = proxy;
     return 1;
 }
@@ -148,32 +317,35 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
         if (out) *out = existing;
         return 1;
     }
-    auto* proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaSurfaceMetaTableName,
-                                              luaopen_zebSurfaceInterface))
-        InkwellProxy{nullptr, surface, nullptr, owned, 0};
+    const InkwellProxy fields{nullptr, surface, nullptr, owned, 0, 0};
+    InkwellProxy* proxy = nullptr;
+    int slot = 0;
+    if (!owned && parent && parent->scopeDepth > 0) {
+        lua_checkstack(L, 3);
+        const int table = pushScopeTable(L);
+        proxy = newScopedRecord(L, table, DrawingKind::kSurface, fields);
+        slot = anchorSlot(parent->scopeDepth) + 1;
+        lua_pushvalue(L, -1);
+        lua_rawseti(L, table, slot);
+        lua_remove(L, table);
+    } else {
+        proxy = new (utility::NewProxyBlock(L, sizeof(InkwellProxy), kZebLuaSurfaceMetaTableName,
+                                            luaopen_zebSurfaceInterface)) InkwellProxy(fields);
+        if (!owned) anchor(L, proxy);
+    }
     markLive(L, proxy);
     if (!owned) {
-        anchor(L, proxy);
+        sLinkedObjects.push_back(LinkedRecord{inkwell, proxy, slot});  // before parent names it
         if (parent) parent->surfaceProxy = proxy;
-        SurfaceBeginScope(inkwell, proxy);
     }
     if (out) *out = proxy;
     return 1;
 }
 
-void SurfaceBeginScope(Inkwell* inkwell, InkwellProxy* proxy) {
-    std::list<InkwellProxy*>* depList = &sLinkedObjects[inkwell];
-    // ZEB_ASSERT would expand NULL before taking the condition's text.
-    ZEB_ASSERT_MSG(depList != NULL, "");
-    depList->push_back(proxy);
-}
-
 void InvalidateInkwellSubObjects(Inkwell* inkwell) {
-    const auto found = sLinkedObjects.find(inkwell);
-    if (found == sLinkedObjects.end()) return;
-    for (InkwellProxy* proxy : found->second)
-        InvalidateProxy(proxy);
-    sLinkedObjects.erase(found);
+    for (const LinkedRecord& linked : sLinkedObjects)
+        if (linked.inkwell == inkwell) InvalidateProxy(linked.record);
+    unlistInkwell(inkwell);
 }
 
 void InvalidateProxy(InkwellProxy* proxy) {
@@ -182,12 +354,10 @@ void InvalidateProxy(InkwellProxy* proxy) {
 }
 
 void EndInkwellScope(lua_State* L, Inkwell* inkwell) {
-    const auto found = sLinkedObjects.find(inkwell);
-    if (found == sLinkedObjects.end()) return;
     // Clearing a present field never allocates, so no collection can take a record before
     // InvalidateInkwellSubObjects has written to it.
-    for (InkwellProxy* record : found->second)
-        releaseAnchor(L, record);
+    for (const LinkedRecord& linked : sLinkedObjects)
+        if (linked.inkwell == inkwell && linked.slot == 0) releaseAnchor(L, linked.record);
     InvalidateInkwellSubObjects(inkwell);
 }
 

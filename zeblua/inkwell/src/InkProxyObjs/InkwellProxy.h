@@ -33,6 +33,9 @@ struct InkwellProxy {
     // popped. A pop beyond them is refused, so a script never pops a state its scope's
     // opener saved, and the scope pops what is left when it closes.
     int pushedStates;
+    // Inkwell proxy only: the depth of the guard that made it, whose anchor slots hold it and
+    // the surface record it makes; 0 for one made outside a guard.
+    int scopeDepth;
 };
 
 // Scope guard of a draw callback, made on the native stack right before lua_pcall:
@@ -42,8 +45,10 @@ struct InkwellProxy {
 // Pushes the Inkwell proxy the callback receives. The destructor, on return or on
 // unwinding, pops the states the callback pushed on its surface and left there, then ends
 // that proxy and every surface proxy taken on the same Inkwell, also those of an enclosing
-// scope. The proxy's record is held in the registry for the scope,
-// so a callback that drops its argument cannot free what the destructor writes to.
+// scope. The proxy and the surface record it makes are held in the anchor slots of the
+// scope's depth, so a callback that drops them cannot free what the destructor writes to;
+// ended, each gets its kind's ended metatable, which has no __gc, so collecting it costs
+// nothing. Raises only Lua's memory error, and only while it is being made.
 class AcquireInkwellProxy {
 public:
     // Sets argCount to 1, the one value pushed.
@@ -55,7 +60,16 @@ public:
 private:
     lua_State* mL;
     InkwellProxy* mProxy;
+    int mDepth;
 };
+
+enum class DrawingKind { kInkwell, kSurface };
+
+// The block of the Inkwell or surface proxy at index: its metatable is the kind's registered
+// one or, once its scope has ended, the kind's ended one, which answers the same methods and
+// whose "__metatable" is the registered one, so getmetatable shows no difference. Anything
+// else raises luaL_checkudata's error with the registered name.
+void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind);
 
 // Pushes an Inkwell proxy that lends inkwell, outside any scope; returns 1.
 int newProxyFromInkwell(lua_State* L, zebui::inkwell::Inkwell* inkwell, InkwellProxy** out);
@@ -64,14 +78,13 @@ int newProxyFromInkwell(lua_State* L, zebui::inkwell::Inkwell* inkwell, InkwellP
 // pushes that record's address as a light userdata with the surface metatable, which Lua
 // 5.1 then gives every light userdata in the state; a method call on it reaches the same
 // record. Otherwise a new record (inkwell null); not owned, it becomes parent's surface
-// proxy, is listed in the scope of inkwell and is held in the registry until that scope
-// ends. Owned: the caller adds the surface's reference.
+// proxy, is listed in the scope of inkwell and is held until that scope ends: in parent's
+// anchor slot when parent is a guard's, else in a registry table (an owned Inkwell's scope
+// ends when it is released). Owned: the caller adds the surface's reference. Raises Lua's
+// memory error, or throws std::bad_alloc when the list cannot grow.
 int newProxyFromSurface(lua_State* L, zebui::inkwell::Inkwell* inkwell,
                         zebui::inkwell::SurfaceInterface* surface, InkwellProxy* parent,
                         InkwellProxy** out, bool owned);
-
-// Lists a scoped surface proxy under inkwell.
-void SurfaceBeginScope(zebui::inkwell::Inkwell* inkwell, InkwellProxy* proxy);
 
 // Ends every surface proxy listed under inkwell, in list order, and forgets the list.
 void InvalidateInkwellSubObjects(zebui::inkwell::Inkwell* inkwell);
@@ -92,7 +105,7 @@ InkwellProxy* SurfaceRecordAt(lua_State* L, int index);
 // Values that live exactly as long as a proxy userdata, in slots of a weak-keyed
 // registry table: how a record named by a bare address in another is kept allocated.
 enum KeptSlot {
-    kKeptScopedSurface = 1,  // an Inkwell proxy's surfaceProxy
+    kKeptScopedSurface = 1,  // the surfaceProxy of an Inkwell proxy made outside a guard
     kKeptBoundSurface = 2,   // the surface NewInkwell bound an owned Inkwell to
 };
 // Pops the value on top of the stack into slot of the proxy userdata at proxyIndex.
