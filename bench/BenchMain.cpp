@@ -54,6 +54,7 @@ int main(int argc, char** argv) {
     zebbench::RegisterProxyBenchmarks();
     zebbench::RegisterMarshallingBenchmarks();
     zebbench::RegisterDrawingBenchmarks();
+    zebbench::RegisterDispatchBenchmarks();
 
     zebbench::RatioReporter reporter(jsonPath, commit);
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -13,7 +13,7 @@ std::vector<Figure>& figures() {
 }
 
 void add(const char* id, const char* label, const char* floor, int ops, BenchBody body) {
-    figures().push_back(Figure{id, label, floor, ops});
+    figures().push_back(Figure{id, label, floor, ops, "", ""});
     benchmark::RegisterBenchmark(id, [body, ops](benchmark::State& state) { body(state, ops); });
 }
 
@@ -25,6 +25,11 @@ void RegisterFloor(const char* id, const char* label, int ops, BenchBody body) {
 
 void RegisterCase(const char* id, const char* label, const char* floor, int ops, BenchBody body) {
     add(id, label, floor, ops, body);
+}
+
+void RegisterDifference(const char* id, const char* label, const char* floor, const char* whole,
+                        const char* part) {
+    figures().push_back(Figure{id, label, floor, 0, whole, part});
 }
 
 const std::vector<Figure>& Figures() {

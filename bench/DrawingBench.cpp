@@ -116,6 +116,8 @@ void RegisterDrawingBenchmarks() {
                  bareScope);
     RegisterCase("scope/GetSurface", "draw scope + ink:GetSurface()", "floor/NativeCallsLua", 1,
                  scopeWithSurface);
+    RegisterDifference("scope/GetSurfaceAlone", "ink:GetSurface() in a scope (the two above)",
+                       "proxy/PenSetWidth", "scope/GetSurface", "scope/Bare");
     RegisterFloor("floor/CairoFill", "native Cairo fill per rect", 10000, cairoFill);
     RegisterCase("draw/PaintRect", "surface:PaintRect(rect, colour) per rect", "floor/CairoFill",
                  10000, paintRect);

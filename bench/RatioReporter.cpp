@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <ctime>
 #include <fstream>
+#include <functional>
 #include <utility>
 
 #include "bench/BenchRegistry.h"
@@ -92,17 +93,27 @@ void RatioReporter::Finalize() {
 // run comes last, without a ratio.
 std::vector<RatioReporter::Row> RatioReporter::rows() const {
     std::vector<Row> result;
-    auto measured = [this](const std::string& id) {
+    auto ran = [this](const std::string& id) {
         const auto found = mNsPerOp.find(id);
         return found == mNsPerOp.end() ? 0.0 : found->second;
     };
-    auto addCases = [&](const std::string& floor, double floorNs) {
+    auto measured = [&](const std::string& id) {
+        const Figure* figure = FindFigure(id);
+        if (!figure || figure->whole.empty()) return ran(id);
+        const double whole = ran(figure->whole);
+        const double part = ran(figure->part);
+        return whole > 0 && part > 0 && whole > part ? whole - part : 0.0;
+    };
+    // Each case is followed by the cases it is the floor of.
+    std::function<void(const std::string&, double)> addCases = [&](const std::string& floor,
+                                                                   double floorNs) {
         for (const Figure& figure : Figures()) {
             if (figure.floor.empty() || figure.floor != floor) continue;
             const double ns = measured(figure.id);
             if (ns <= 0) continue;
             const double ratio = floorNs > 0 ? ns / floorNs : 0.0;
             result.push_back(Row{figure.id, figure.label, figure.floor, ns, floorNs, ratio});
+            addCases(figure.id, ns);
         }
     };
     for (const Figure& figure : Figures()) {

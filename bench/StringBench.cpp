@@ -1,6 +1,11 @@
-// zebString from a Lua loop: a plain string function and a regular expression search,
-// each called exactly as the no-op floor is, f(a, b) with f and both strings in locals.
+// zebString from a Lua loop: a plain string function, called exactly as the no-op floor
+// is, f(a, b) with f and both strings in locals; and the regular expression functions with
+// one pattern used again and again, against Boost.Regex doing the same work with that
+// pattern compiled once.
+#include <string>
+
 #include <benchmark/benchmark.h>
+#include <boost/regex.hpp>
 
 #include "bench/BenchRegistry.h"
 #include "bench/BenchSession.h"
@@ -9,35 +14,106 @@ namespace zebbench {
 
 namespace {
 
-void runStringLoop(benchmark::State& state, int ops, const char* function, const char* a,
-                   const char* b) {
+// What the module compiles: one element per byte, Perl syntax.
+using ByteRegex =
+    boost::basic_regex<char, boost::regex_traits<char, boost::cpp_regex_traits<char>>>;
+
+const char kSentence[] = "the quick brown fox";
+const char kWord[] = "b[a-z]+n";
+const char kColour[] = "red";
+const char kPadded[] = "  \t padded words \r\n";
+// The two patterns Trim searches with: leading and trailing white space.
+const char kLeadingSpace[] = "\\A[\\s]*";
+const char kTrailingSpace[] = "[\\s]*\\z";
+
+// -- for i = 1, n do f(...) end, with f = zebString[function] and the strings as locals
+void runStringLoop(benchmark::State& state, int ops, const char* function, const char* locals,
+                   const char* call, std::initializer_list<const char*> strings) {
     BenchSession session;
     lua_State* L = session.L();
     lua_getglobal(L, "zebString");
     lua_getfield(L, -1, function);
     lua_remove(L, -2);
-    lua_pushstring(L, a);
-    lua_pushstring(L, b);
-    const int loop = session.compileLoop(LoopChunk("f, a, b", "f(a, b)"), 3);
+    for (const char* text : strings)
+        lua_pushstring(L, text);
+    const int loop = session.compileLoop(LoopChunk(locals, call), 1 + int(strings.size()));
     for (auto _ : state)
         session.runLoop(loop, ops);
 }
 
 // Two strings that share a prefix, so the comparison walks some bytes.
 void compare(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "Compare", "alpha/beta/gamma", "alpha/beta/delta");
+    runStringLoop(state, ops, "Compare", "f, a, b", "f(a, b)",
+                  {"alpha/beta/gamma", "alpha/beta/delta"});
 }
 
-// The pattern is compiled on every call, as the module promises.
 void matchB(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "MatchB", "the quick brown fox", "b[a-z]+n");
+    runStringLoop(state, ops, "MatchB", "f, a, b", "f(a, b)", {kSentence, kWord});
+}
+
+void replaceB(benchmark::State& state, int ops) {
+    runStringLoop(state, ops, "ReplaceB", "f, a, b, c", "f(a, b, c)", {kSentence, kWord, kColour});
+}
+
+void trim(benchmark::State& state, int ops) {
+    runStringLoop(state, ops, "Trim", "f, a", "f(a)", {kPadded});
+}
+
+void boostSearch(benchmark::State& state, int ops) {
+    const ByteRegex regex(kWord);
+    const char* first = kSentence;
+    const char* last = first + sizeof kSentence - 1;
+    boost::cmatch found;
+    for (auto _ : state) {
+        for (int i = 0; i < ops; ++i) {
+            benchmark::DoNotOptimize(boost::regex_search(first, last, found, regex));
+            benchmark::DoNotOptimize(found[0].first - first);
+        }
+    }
+}
+
+// Into one string, as a result is built before Lua copies it.
+void boostReplace(benchmark::State& state, int ops) {
+    const ByteRegex regex(kWord);
+    const char* first = kSentence;
+    const char* last = first + sizeof kSentence - 1;
+    std::string out;
+    for (auto _ : state) {
+        for (int i = 0; i < ops; ++i) {
+            out.clear();
+            boost::regex_replace(std::back_inserter(out), first, last, regex, kColour);
+            benchmark::DoNotOptimize(out.data());
+        }
+    }
+}
+
+void boostTrim(benchmark::State& state, int ops) {
+    const ByteRegex leadingSpace(kLeadingSpace);
+    const ByteRegex trailingSpace(kTrailingSpace);
+    const char* last = kPadded + sizeof kPadded - 1;
+    boost::cmatch found;
+    for (auto _ : state) {
+        for (int i = 0; i < ops; ++i) {
+            boost::regex_search(kPadded, last, found, leadingSpace);
+            const char* first = found[0].second;
+            boost::regex_search(first, last, found, trailingSpace);
+            benchmark::DoNotOptimize(found[0].first - first);
+        }
+    }
 }
 
 }  // namespace
 
 void RegisterStringBenchmarks() {
     RegisterCase("string/Compare", "zebString.Compare(a, b)", "floor/LuaCallsNoop", 1000, compare);
-    RegisterCase("string/MatchB", "zebString.MatchB(s, regex)", "floor/LuaCallsNoop", 100, matchB);
+    RegisterFloor("floor/BoostSearch", "Boost regex_search, compiled once", 1000, boostSearch);
+    RegisterCase("string/MatchB", "zebString.MatchB(s, regex), same regex", "floor/BoostSearch",
+                 1000, matchB);
+    RegisterFloor("floor/BoostReplace", "Boost regex_replace, compiled once", 1000, boostReplace);
+    RegisterCase("string/ReplaceB", "zebString.ReplaceB(s, regex, text), same regex",
+                 "floor/BoostReplace", 1000, replaceB);
+    RegisterFloor("floor/BoostTrim", "Boost: Trim's two searches, compiled once", 1000, boostTrim);
+    RegisterCase("string/Trim", "zebString.Trim(s)", "floor/BoostTrim", 1000, trim);
 }
 
 }  // namespace zebbench
