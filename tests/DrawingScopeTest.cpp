@@ -1,6 +1,9 @@
 // Drawing scopes: Inkwell and surface proxies end with their scope, nested scopes, the
 // light userdata of a second GetSurface, collection mid-scope, owned Inkwells, offscreen.
+#include <new>
 #include <string>
+
+#include <gmock/gmock.h>
 
 #include <boost/intrusive_ptr.hpp>
 #include <lua.hpp>
@@ -16,6 +19,7 @@
 
 namespace {
 
+using ::testing::HasSubstr;
 using zeblua::inkwell::InkwellProxy;
 using zebui::inkwell::CairoSurface;
 using zebui::inkwell::SurfaceInterface;
@@ -27,6 +31,19 @@ const char* const kSurfaceEnded = "Attempting to use an out-of-scope SurfaceInte
 int addressOf(lua_State* L) {
     lua_pushlightuserdata(L, lua_touserdata(L, 1));
     return 1;
+}
+
+// skipScope(fn): opens a scope on the Inkwell of its upvalue, calls fn in it, then raises
+// before the guard can close it: a Lua error leaves a guard's destructor unrun.
+int skipScope(lua_State* L) {
+    auto* inkwell = static_cast<zebui::inkwell::Inkwell*>(lua_touserdata(L, lua_upvalueindex(1)));
+    lua_pushvalue(L, 1);
+    int argCount = 0;
+    new (lua_newuserdata(L, sizeof(zeblua::inkwell::AcquireInkwellProxy)))
+        zeblua::inkwell::AcquireInkwellProxy(L, inkwell, argCount); /* fn, guard, proxy */
+    lua_remove(L, -2);
+    lua_call(L, argCount, 0);
+    return luaL_error(L, "the scope is skipped");
 }
 
 class DrawingScopeTest : public DrawingTest {
@@ -333,6 +350,66 @@ TEST_F(DrawingScopeTest, AStateClosedWithAScopeLeftOpenLeavesNoListedRecord) {
     runLua("function draw(ink) ink:GetSurface():PaintRect(rect(0, 0, 2, 2), red) end");
     draw(mCanvas.inkwell, "draw");
     EXPECT_EQ(mCanvas.surface->ReadPixel(0, 0), kRedPixel);
+}
+
+// An ended proxy changes its metatable for one without __gc, so that collecting it costs
+// nothing; scripts see the registered table, the same methods and texts, and no revival by
+// later scopes, which reuse the anchors of the same depth.
+TEST_F(DrawingScopeTest, AnEndedProxyLooksTheSameToScriptsAndHasNoFinalizer) {
+    runLua(R"(
+        function keep(ink)
+            keptInk, keptSurface = ink, ink:GetSurface()
+            inkMeta, surfaceMeta = getmetatable(ink), getmetatable(keptSurface)
+            liveGC = debug.getmetatable(ink).__gc ~= nil
+        end
+        function later(ink) ink:GetSurface():PaintRect(rect(0, 0, 2, 2), red) end
+    )");
+    draw(mCanvas.inkwell, "keep");
+    for (int i = 0; i < 3; ++i)
+        draw(mCanvas.inkwell, "later");
+    EXPECT_EQ(luaValue("getmetatable(keptInk) == inkMeta"), "true");
+    EXPECT_EQ(luaValue("getmetatable(keptSurface) == surfaceMeta"), "true");
+    EXPECT_EQ(luaValue("liveGC"), "true");
+    EXPECT_EQ(luaValue("debug.getmetatable(keptInk).__gc"), "nil");
+    EXPECT_EQ(luaValue("debug.getmetatable(keptSurface).__gc"), "nil");
+    EXPECT_EQ(luaValue("keptInk.GetSurface == inkMeta.GetSurface"), "true");
+    EXPECT_EQ(luaValue("tostring(keptSurface)"), "zebSurfaceInterface(" + nullPointerText() + ")");
+    expectEnded("keptInk:GetSurface()", kInkwellEnded);
+    expectEnded("keptSurface:PaintRect(rect(4, 4, 2, 2), blue)", kSurfaceEnded);
+    // Its own __gc, reached through __index and called by hand, ends nothing.
+    EXPECT_EQ(resultCount("keptInk.__gc(keptInk)"), 0);
+    EXPECT_THAT(luaError("keptInk.GetSurface(keptSurface)"),
+                HasSubstr("zeblua.zebInkwell expected"));
+    EXPECT_TRUE(mCanvas.isClear(5, 5));
+    runLua("keptInk, keptSurface = nil, nil");
+    collectGarbage();
+    EXPECT_EQ(mCanvas.surface->GetReferenceCount(), 1);
+}
+
+// A guard skipped by a Lua error leaves its records anchored and listed. The next guard of
+// its depth, here on another Inkwell, ends and unlists them before it takes their slots:
+// otherwise a record let go would still be listed when a scope on its Inkwell closes.
+TEST_F(DrawingScopeTest, AGuardALuaErrorSkippedIsEndedByTheNextGuardOfItsDepth) {
+    lua_pushlightuserdata(L, &mCanvas.inkwell);
+    lua_pushcclosure(L, skipScope, 1);
+    lua_setglobal(L, "skipScope");
+    defineDispatch("dispatchOther", mOther.inkwell);
+    runLua(R"(
+        function stale(ink) staleSurface = ink:GetSurface() end
+        function outer(ink) skipped = select(2, pcall(skipScope, stale)) end
+        function child(ink) ink:GetSurface():PaintRect(rect(4, 0, 2, 2), blue) end
+        function parent(ink) dispatchOther("child") end
+    )");
+    draw(mOther.inkwell, "outer");
+    EXPECT_THAT(luaValue("skipped"), HasSubstr("the scope is skipped"));
+    draw(mOther.inkwell, "parent");
+    expectEnded("staleSurface:PaintRect(rect(0, 0, 2, 2), red)", kSurfaceEnded);
+    runLua("staleSurface = nil");
+    collectGarbage();
+    draw(mCanvas.inkwell, "child");
+    EXPECT_EQ(mCanvas.surface->ReadPixel(5, 1), kBluePixel);
+    EXPECT_EQ(mOther.surface->ReadPixel(5, 1), kBluePixel);
+    EXPECT_TRUE(mCanvas.isClear(1, 1));
 }
 
 }  // namespace

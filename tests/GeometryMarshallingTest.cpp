@@ -5,6 +5,7 @@
 #include <sstream>
 #include <string>
 
+#include <gmock/gmock.h>
 #include <lua.hpp>
 
 #include "tests/LuaTestFixture.h"
@@ -183,6 +184,34 @@ TEST_F(GeometryMarshallingTest, ReadersAskForFieldsInTheirFixedOrder) {
         EXPECT_EQ(luaValue("table.concat(log, ' ')"), c.order) << c.reader;
     }
     EXPECT_EQ(rectText(), "1 1 1 1");
+}
+
+// Fields that are all there are read raw, so a metatable's __index never runs; one missing
+// field sends the whole read the full way, __index and errors in the fixed order.
+TEST_F(GeometryMarshallingTest, PresentFieldsNeverReachIndexAndAMissingOneReadsInOrder) {
+    runLua(R"(
+        function withIndex(t)
+          log = {}
+          return setmetatable(t, {__index = function(_, key)
+            log[#log + 1] = key
+            if key == "fail" then error("index ran") end
+            return 5
+          end})
+        end
+    )");
+    resetTargets();
+    runLua("readRect(withIndex{left=1, top=2, width=3, height=4, fail=true})");
+    runLua("rectLog = #log readColour(withIndex{red=0, green='0', blue=0.5, alpha=1})");
+    EXPECT_EQ(luaValue("rectLog .. ',' .. #log"), "0,0");
+    EXPECT_EQ(rectText(), "1 2 3 4");
+    EXPECT_EQ(colourText(), "0 0 0.5 1");
+    runLua("readRect(withIndex{top=1, width=3})");
+    EXPECT_EQ(luaValue("table.concat(log, ' ')"), "left height");
+    EXPECT_EQ(rectText(), "5 1 3 5");
+    // The full read meets the bad "left" before it would ask __index for "height".
+    EXPECT_THAT(luaError("readRect(withIndex{top=1, left='wide', width=3})"),
+                ::testing::HasSubstr("number expected, got string"));
+    EXPECT_EQ(luaValue("#log"), "0");
 }
 
 TEST_F(GeometryMarshallingTest, MatrixReaderCountsTheNumbersOfItsRowTables) {

@@ -7,6 +7,7 @@
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
 #include "zeblua/utility/src/LuaCallForms.h"
+#include "zeblua/utility/src/MainThread.h"
 #include "zeblua/utility/src/RunNative.h"
 
 namespace {
@@ -103,6 +104,21 @@ TEST_F(RunningScriptTest, ACallbackNamesTheLineRunningWhenTheReportIsMade) {
     zeblua::utility::CallNotify(L, 0);
     runLua("reportUnguarded()");
     EXPECT_EQ(places(), (std::vector<std::string>{"test:3", "test:4", ""}));
+}
+
+// On a main thread the library knows, a guard reads the place only when a report asks, so
+// it keeps the state: when that state closes, a record a Lua error left behind forgets it,
+// and a later report names no place instead of reading a closed state.
+TEST_F(RunningScriptTest, AClosedStateIsNeverReadForAPlace) {
+    lua_State* other = luaL_newstate();
+    luaL_openlibs(other);
+    zeblua::utility::RecordMainThread(other); /* as every opener does */
+    lua_register(other, "failInside", failInside);
+    lua_register(other, "report", report);
+    ASSERT_EQ(luaL_dostring(other, "report()\npcall(failInside)"), 0);
+    lua_close(other);
+    ZEB_ASSERT_MSG(false, "after the close");
+    EXPECT_EQ(places(), (std::vector<std::string>{"[string \"report()...\"]:1", ""}));
 }
 
 }  // namespace

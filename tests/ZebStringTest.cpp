@@ -227,6 +227,28 @@ TEST_F(ZebStringTest, ABadPatternIsALuaErrorThatLeavesTheStateUsable) {
     EXPECT_EQ(results("S.MatchB('abc', 'c')"), "3,4");
 }
 
+// Patterns are kept once compiled, a few at a time, by all their bytes and the global
+// locale: a bad one raises at every call, one pushed out by many others answers the same
+// when it comes back, and patterns that differ only after a zero byte (the expression ends
+// there) each answer as that expression does.
+TEST_F(ZebStringTest, KeptPatternsAnswerAsFreshlyCompiledOnes) {
+    for (int call = 0; call < 3; ++call)
+        EXPECT_THAT(luaError("S.MatchB('abc', '(')"), StartsWith("test:1: MatchB: ")) << call;
+    runLua("for k = 1, 40 do S.MatchB('abc', 'x' .. k) S.ReplaceB('abc', 'y' .. k, 'z') end");
+    expectResults({{"S.MatchB('abcabc', 'b+c', 3)", "5,7"},
+                   {"S.ReplaceB('a1b22', '[0-9]+', '#')", "a#b#"},
+                   {"S.MatchB('abc', 'x17')", "nil"},
+                   {"S.MatchB('ab', 'b\\0x')", "2,3"},
+                   {"S.MatchB('ab', 'b\\0y')", "2,3"},
+                   {"S.MatchB('ab', 'b')", "2,3"},
+                   {"S.Trim('  kept  ')", "kept"}});
+    EXPECT_THAT(luaError("S.ReplaceB('abc', '(', 'x')"), HasSubstr("ReplaceB: "));
+    EXPECT_THAT(luaError("S.ReplaceB('abc', '(', 'x')"), HasSubstr("ReplaceB: "));
+    // A result above the kept size is whole, and the next small one is not left over it.
+    expectResults({{"#S.ReplaceB(string.rep('a', 100000), 'a', 'bb')", "200000"},
+                   {"S.ReplaceB('abc', 'b', '')", "ac"}});
+}
+
 // Numbers beyond any string (2^63, -2^63, 1e19, infinities, NaN) are clamped before they
 // become integers: an unclamped conversion is undefined, and 1e19 used to come back as
 // -2^63 and count from the wrong end.

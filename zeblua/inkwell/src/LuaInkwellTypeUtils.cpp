@@ -65,22 +65,23 @@ bool tableToRead(lua_State* L, int index) {
     return !lua_isnil(L, -1);
 }
 
-// The raw values of the fields, when every one is a number. __index runs only for an absent
-// key, so then lua_gettable would have given the same values and run no script, in any
-// order. False when one is not: the caller reads again the full way, with its __index
-// order and its errors.
+// The raw values of the fields, when every one converts as luaL_checknumber converts it.
+// __index runs only for an absent key, so then lua_gettable would have given the same values
+// and run no script, in any order. False when one does not: the caller reads again the full
+// way, with its __index order and its errors. The values stay on the stack until the end.
 template <std::size_t N>
 bool rawNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
                 lua_Number (&values)[N]) {
-    for (std::size_t i = 0; i < N; ++i) {
+    const int top = lua_gettop(L);
+    bool all = true;
+    for (std::size_t i = 0; all && i < N; ++i) {
         lua_rawgeti(L, keys, fields[i]);
         lua_rawget(L, index);
-        const bool isNumber = lua_type(L, -1) == LUA_TNUMBER;
         values[i] = lua_tonumber(L, -1);
-        lua_pop(L, 1);
-        if (!isNumber) return false;
+        all = values[i] != 0 || lua_isnumber(L, -1); /* luaL_checknumber's own test */
     }
-    return true;
+    lua_settop(L, top);
+    return all;
 }
 
 // Reads the number fields into values: raw when all are numbers, else each by

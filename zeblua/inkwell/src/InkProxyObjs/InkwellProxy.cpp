@@ -45,6 +45,12 @@ std::vector<LinkedRecord> sLinkedObjects;
 // Guards open, across all states; a guard's anchor slots are numbered by its depth.
 int sScopeDepth = 0;
 
+// Whether a guard of that depth is open, for the depths most programs reach. A guard whose
+// destructor a Lua error skipped (longjmp runs none) leaves its flag set, which the next
+// guard of that depth finds. Deeper guards look at their slots instead.
+constexpr int kFlaggedDepths = 64;
+bool sDepthOpen[kFlaggedDepths + 1];
+
 // What a light userdata that names no surface record stands for. Only ever nulled.
 InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0, 0};
 
@@ -167,25 +173,25 @@ InkwellProxy* newScopedRecord(lua_State* L, int tableIndex, DrawingKind kind,
     return record;
 }
 
-// Ends the record in slot of the scope table at tableIndex, if any, gives it its kind's
-// ended metatable and lets it go; raises no Lua error. A record is ended here even if it
-// never made it into the list.
+// Ends the record in slot of the scope table at tableIndex, if any, and gives it its kind's
+// ended metatable; raises no Lua error. A record is ended here even if it never made it into
+// the list. It stays in its slot until the next guard of that depth puts its own there: one
+// ended object a depth, and a closing scope writes no slot.
 void endAnchored(lua_State* L, int tableIndex, int slot, DrawingKind kind) {
     lua_rawgeti(L, tableIndex, slot);
-    if (lua_type(L, -1) == LUA_TUSERDATA) {
-        InvalidateProxy(static_cast<InkwellProxy*>(lua_touserdata(L, -1)));
+    if (auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, -1))) {
+        InvalidateProxy(record);
         lua_rawgeti(L, tableIndex, metatableSlot(kind, true));
         lua_setmetatable(L, -2);
-        lua_pushnil(L);
-        lua_rawseti(L, tableIndex, slot); /* a present slot: no allocation */
     }
     lua_pop(L, 1);
 }
 
-// Slots of depth still holding records belong to a guard that a Lua error skipped (longjmp
-// runs no destructor): they are ended and unlisted before the slots are used again, so no
-// listed record is ever let go. Raises no Lua error.
+// The slots of depth may still hold the records of a guard that a Lua error skipped: they
+// are ended and unlisted before the slots are used again, so no listed record is ever let
+// go. Ending an ended record again changes nothing. Raises no Lua error.
 void endSkippedScope(lua_State* L, int tableIndex, int depth) {
+    if (depth <= kFlaggedDepths && !sDepthOpen[depth]) return;
     for (const int slot : {anchorSlot(depth), anchorSlot(depth) + 1}) {
         lua_rawgeti(L, tableIndex, slot);
         const void* record = lua_touserdata(L, -1);
@@ -217,13 +223,26 @@ void releaseAnchor(lua_State* L, InkwellProxy* record) {
     lua_pop(L, 1);
 }
 
-// Names the surface record userdata on top of the stack (left there) as live.
-void markLive(lua_State* L, InkwellProxy* record) {
-    PushOrMakeRegistryTable(L, &sLiveRecordsKey, "v", nullptr); /* ud, live */
-    lua_pushlightuserdata(L, record);
-    lua_pushvalue(L, -3);
-    lua_rawset(L, -3); /* live[record] = ud */
-    lua_pop(L, 1);
+// Names the surface record of parent as live: from here on light userdata name it, and only
+// a record in this table is read through one. Its userdata is where parent's scope holds it.
+void markLive(lua_State* L, const InkwellProxy& parent) {
+    lua_checkstack(L, 4);
+    if (parent.scopeDepth > 0) {
+        PushRegistryTable(L, &sScopeTableKey);
+        lua_rawgeti(L, -1, anchorSlot(parent.scopeDepth) + 1);
+    } else {
+        PushRegistryTable(L, &sScopeAnchorsKey);
+        lua_pushlightuserdata(L, parent.surfaceProxy);
+        lua_rawget(L, -2);
+    }
+    if (lua_touserdata(L, -1) == parent.surfaceProxy) {
+        PushOrMakeRegistryTable(L, &sLiveRecordsKey, "v", nullptr); /* T, ud, live */
+        lua_pushlightuserdata(L, parent.surfaceProxy);
+        lua_pushvalue(L, -3);
+        lua_rawset(L, -3); /* live[record] = ud */
+        lua_pop(L, 1);
+    }
+    lua_pop(L, 2);
 }
 
 // Pops what the script pushed on the state stack of the scope's surface and did not pop:
@@ -261,6 +280,7 @@ AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& ar
     lua_rawseti(L, table, anchorSlot(mDepth)); /* the last push that can raise */
     lua_remove(L, table);
     sScopeDepth = mDepth;
+    if (mDepth <= kFlaggedDepths) sDepthOpen[mDepth] = true;
     argCount = 1;
 }
 
@@ -272,10 +292,12 @@ AcquireInkwellProxy::~AcquireInkwellProxy() {
     lua_checkstack(mL, 3);
     PushRegistryTable(mL, &sScopeTableKey);
     const int table = lua_gettop(mL);
-    endAnchored(mL, table, anchorSlot(mDepth) + 1, DrawingKind::kSurface);
+    // Only GetSurface fills the surface slot, and it names what it put there.
+    if (mProxy->surfaceProxy) endAnchored(mL, table, anchorSlot(mDepth) + 1, DrawingKind::kSurface);
     endAnchored(mL, table, anchorSlot(mDepth), DrawingKind::kInkwell);
     lua_pop(mL, 1);
     sScopeDepth = mDepth - 1;
+    if (mDepth <= kFlaggedDepths) sDepthOpen[mDepth] = false;
 }
 
 void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind) {
@@ -311,6 +333,7 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
                         InkwellProxy* parent, InkwellProxy** out, bool owned) {
     if (parent && parent->surfaceProxy && !owned) {
         InkwellProxy* existing = parent->surfaceProxy;
+        markLive(L, *parent);
         lua_pushlightuserdata(L, existing);
         luaL_getmetatable(L, kZebLuaSurfaceMetaTableName);
         lua_setmetatable(L, -2); /* the metatable of every light userdata */
@@ -333,7 +356,6 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
                                             luaopen_zebSurfaceInterface)) InkwellProxy(fields);
         if (!owned) anchor(L, proxy);
     }
-    markLive(L, proxy);
     if (!owned) {
         sLinkedObjects.push_back(LinkedRecord{inkwell, proxy, slot});  // before parent names it
         if (parent) parent->surfaceProxy = proxy;
