@@ -80,10 +80,9 @@ private:
 
 // knob:Probe(number): a typed method built with the idiom; names the knob by the number.
 int knobProbe(lua_State* L) {
-    LuaControlWrapperBase* wrapper = GetControlUserData(L, 1);
-    if (!wrapper) return 0;
+    if (!GetControlUserData(L, 1)) return 0;
     const lua_Integer number = luaL_checkinteger(L, 2);
-    zc::UI_Knob* knob = CastControlNode<zc::UI_Knob>(L, wrapper);
+    zc::UI_Knob* knob = CastControlNode<zc::UI_Knob>(L, 1);
     if (!knob) return 0;
     knob->UI_SetNodeID("knob " + std::to_string(number));
     lua_pushboolean(L, 1);

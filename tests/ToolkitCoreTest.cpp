@@ -219,6 +219,40 @@ TEST_F(ToolkitCoreTest, ChildListOperationsCountFromZeroAndIgnoreBadIndexes) {
     EXPECT_EQ(parent->ChildSize(), 0u);
 }
 
+// Children are drawn in list order, so the owner asks for a whole redraw at every change;
+// a move or swap within range asks even when the order stays, as the toolkit doesn't
+// compare, and an ignored call asks nothing.
+TEST_F(ToolkitCoreTest, ChildListChangesInvalidateTheWholeOwner) {
+    auto parent = newView("p");
+    const auto invalidations = [&] { return parent->GetRedrawRecord().invalidateCount; };
+    parent->ChildPushBack(newView("a"));
+    parent->ChildPushBack(newView("b"));
+    EXPECT_EQ(invalidations(), 2u);
+    EXPECT_TRUE(parent->GetRedrawRecord().wholeNode);
+    parent->ChildMove(1, 1);
+    parent->ChildSwapOrder(0, 0);
+    EXPECT_EQ(invalidations(), 4u) << "calls that leave the order";
+    parent->ChildMove(0, 2);
+    parent->ChildSwapOrder(5, 0);
+    parent->ChildRemove(newView("stranger"));
+    EXPECT_EQ(invalidations(), 4u) << "ignored calls";
+    parent->ChildRemove(parent->ChildGet(0));
+    parent->DeleteChildren();
+    parent->DeleteChildren();
+    EXPECT_EQ(invalidations(), 6u) << "removing, and deleting what is there";
+}
+
+TEST_F(ToolkitCoreTest, ANodeInNoWindowsTreeDrawsWithTheManagersDefaultSupplier) {
+    auto top = newView("top");
+    auto child = newView("child");
+    top->ChildPushBack(child);
+    const zebui::inkwell::SupplierInterface* fallback =
+        UI_NodeManager::Get(false)->GetDefaultSupplier();
+    ASSERT_NE(fallback, nullptr);
+    EXPECT_EQ(top->UI_GetDrawSupplier(), fallback);
+    EXPECT_EQ(child->UI_GetDrawSupplier(), fallback);
+}
+
 TEST_F(ToolkitCoreTest, LocalAndGlobalCoordinatesGoThroughTheWholeParentChain) {
     boost::intrusive_ptr<OS_Window> window(new OS_Window);
     window->UI_SetLocalRectF(RectT<float>(100, 50, 800, 600));

@@ -1,10 +1,15 @@
 // zebhost.snapshot and the per-class fillers of its state table.
 #include "host/src/HostSnapshot.h"
 
+#include <string>
+
 #include <lua.hpp>
 
 #include "host/src/HostNodes.h"
+#include "zebcore/utility/Strings.h"
 #include "zeblua/utility/src/LuaModule.h"
+#include "zeblua/utility/src/LuaResultString.h"
+#include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/controls/UI_InteractiveControlView.h"
 #include "zebui/ui/UI_Node.h"
@@ -55,6 +60,58 @@ void pushPlainRect(lua_State* L, const zebcore::geom::RectT<float>& rect) {
     lua_setfield(L, -2, "height");
 }
 
+// A UTF-16 text of the node as a UTF-8 field of the table on top. The conversion fills a
+// string that Lua owns, so a memory error in the push leaves no C++ object behind.
+void setConvertedText(lua_State* L, const char* name, const zebcore::UTF16String& text) {
+    std::string* converted = zeblua::utility::PushResultString(L);
+    zeblua::utility::RunNative(L, "zebhost.snapshot", [&] {
+        *converted = zebcore::utility::UTF16to8(text);
+        return 0;
+    });
+    lua_pushlstring(L, converted->data(), converted->size());
+    lua_setfield(L, -3, name);
+    lua_pop(L, 1); /* the owner of the converted string */
+}
+
+void setInteger(lua_State* L, const char* name, lua_Integer value) {
+    lua_pushinteger(L, value);
+    lua_setfield(L, -2, name);
+}
+
+// What UI_Invalidate and UI_UpdateNow were asked since the record was last cleared.
+void pushRedrawRecord(lua_State* L, const zui::UI_Node::RedrawRecord& record) {
+    lua_createtable(L, 0, 6);
+    setInteger(L, "invalidations", static_cast<lua_Integer>(record.invalidateCount));
+    setBoolean(L, "wholeNode", record.wholeNode);
+    lua_createtable(L, static_cast<int>(record.rects.size()), 0);
+    int index = 0;
+    for (const zebcore::geom::RectT<int>& rect : record.rects) {
+        pushPlainRect(L, zebcore::geom::RectT<float>(
+                             static_cast<float>(rect.left), static_cast<float>(rect.top),
+                             static_cast<float>(rect.width), static_cast<float>(rect.height)));
+        lua_rawseti(L, -2, ++index);
+    }
+    lua_setfield(L, -2, "rects");
+    setInteger(L, "invalidateFlags", record.invalidateFlags.GetValue());
+    setInteger(L, "updates", static_cast<lua_Integer>(record.updateNowCount));
+    setInteger(L, "updateFlags", record.updateNowFlags.GetValue());
+}
+
+// What every node has beside its geometry: tool tip, theme, draw cache policy (the
+// toolkit's number), whether the last mouse event went to the node itself, and its
+// redraw record.
+void setNodeAppearance(lua_State* L, const zui::UI_Node& node) {
+    setConvertedText(L, "toolTip", node.UI_GetToolTip());
+    setInteger(L, "toolTipWidth", node.UI_GetToolTipWidth());
+    setBoolean(L, "toolTipAvoidsBounds", node.UI_GetToolTipAvoidsBounds());
+    setConvertedText(L, "themeName", node.GetThemeName());
+    setInteger(L, "drawCachePolicy", node.UI_GetDrawCachePolicy());
+    setBoolean(L, "clipToSelf", node.UI_GetClipToSelfEnabled());
+    setBoolean(L, "mouseOver", node.UI_IsMouseOver(false));
+    pushRedrawRecord(L, node.GetRedrawRecord());
+    lua_setfield(L, -2, "redraw");
+}
+
 // Pushes node's table. Only plain pointers live here: no script runs, so the tree, which
 // holds every node below the argument's wrapper, cannot change meanwhile.
 void pushSnapshot(lua_State* L, const zui::UI_Node& node, lua_Integer depth) {
@@ -80,6 +137,7 @@ void pushSnapshot(lua_State* L, const zui::UI_Node& node, lua_Integer depth) {
         L, node.UI_LocalToGlobalF(zebcore::geom::RectT<float>(0, 0, rect.width, rect.height)));
     lua_setfield(L, -2, "globalRect");
     setBoolean(L, "focus", node.UI_HasKeyboardFocus(false));
+    setNodeAppearance(L, node);
     lua_pushinteger(L, static_cast<lua_Integer>(node.ChildSize()));
     lua_setfield(L, -2, "childCount");
     lua_newtable(L);

@@ -15,7 +15,8 @@ public:
     explicit OS_Window(const inkwell::SupplierInterface* supplier);
     ~OS_Window() override;
 
-    // The window's own supplier, else none (a window has no parent to ask).
+    // The window's own supplier, else the plain node's answer: with no parent to ask, the
+    // manager's default supplier.
     const inkwell::SupplierInterface* UI_GetDrawSupplier() const override;
     // The frame on the screen, window decorations included, in whole units; headless
     // windows have no decorations, so it is the local rect.

@@ -23,6 +23,7 @@ void UI_Container::ChildPushBack(boost::intrusive_ptr<UI_Node> child) {
     if (UI_Node* oldParent = child->mParent) oldParent->ChildRemove(child);
     child->mParent = &mOwner;
     mChildren.push_back(std::move(child));
+    redrawOwner();
 }
 
 void UI_Container::ChildRemove(boost::intrusive_ptr<UI_Node> child) {
@@ -31,6 +32,7 @@ void UI_Container::ChildRemove(boost::intrusive_ptr<UI_Node> child) {
     if (found == mChildren.end()) return;
     child->mParent = nullptr;
     mChildren.erase(found);  // the argument still holds the child
+    redrawOwner();
 }
 
 boost::intrusive_ptr<UI_Node> UI_Container::ChildGet(unsigned long index) const {
@@ -38,15 +40,17 @@ boost::intrusive_ptr<UI_Node> UI_Container::ChildGet(unsigned long index) const 
 }
 
 void UI_Container::ChildMove(unsigned long from, unsigned long to) {
-    if (from >= mChildren.size() || to >= mChildren.size() || from == to) return;
+    if (from >= mChildren.size() || to >= mChildren.size()) return;
     boost::intrusive_ptr<UI_Node> moving = mChildren[from];
     mChildren.erase(mChildren.begin() + from);
     mChildren.insert(mChildren.begin() + to, std::move(moving));
+    redrawOwner();
 }
 
 void UI_Container::ChildSwapOrder(unsigned long first, unsigned long second) {
     if (first >= mChildren.size() || second >= mChildren.size()) return;
     std::swap(mChildren[first], mChildren[second]);
+    redrawOwner();
 }
 
 void UI_Container::DeleteChildren() {
@@ -56,6 +60,11 @@ void UI_Container::DeleteChildren() {
     leaving.swap(mChildren);
     for (const auto& child : leaving)
         child->mParent = nullptr;
+    if (!leaving.empty()) redrawOwner();
+}
+
+void UI_Container::redrawOwner() {
+    mOwner.UI_Invalidate(nullptr, 0);
 }
 
 }  // namespace ui

@@ -17,6 +17,9 @@ class UI_Node;
 // parent dies, lives on while others hold it, with a null parent.
 // Indexes count from 0. Out-of-range indexes and a foreign child are ignored silently,
 // since scripts pass them through unchecked.
+// The children are drawn in list order, so every change of the list invalidates the whole
+// owner. A move or swap within range does so even when it leaves the order as it was:
+// the toolkit doesn't compare, and tests see each call that was made.
 // The iterators are those of the list itself: changing the list ends them.
 class UI_Container : public ThemeOwner {
 public:
@@ -46,6 +49,8 @@ protected:
     explicit UI_Container(UI_Node& owner);
 
 private:
+    void redrawOwner();
+
     UI_Node& mOwner;
     ChildList mChildren;
 };

@@ -119,7 +119,8 @@ void UI_Node::UI_Draw(inkwell::Inkwell* inkwell) const {
 void UI_Node::UI_DrawFace(inkwell::Inkwell* /*inkwell*/) const {}
 
 const inkwell::SupplierInterface* UI_Node::UI_GetDrawSupplier() const {
-    return mParent ? mParent->UI_GetDrawSupplier() : nullptr;
+    return mParent ? mParent->UI_GetDrawSupplier()
+                   : UI_NodeManager::Get(false)->GetDefaultSupplier();
 }
 
 bool UI_Node::UI_DoPreMouseEvent(UI_Node* target, const MouseEvent& event) {

@@ -91,7 +91,9 @@ public:
     // shown children in order through UI_DispatchDrawToChild. inkwell may be null (nothing
     // to draw on): the calls still happen, so a hook sees them.
     virtual void UI_Draw(inkwell::Inkwell* inkwell) const;
-    // That of the node's window: the parent's, up to the top, which has none here.
+    // That of the node's window: the parent's, up to the top. A window that draws with a
+    // supplier of its own answers that one; any other top, a node not in a drawn tree,
+    // answers the manager's default supplier, so it can still be measured.
     virtual const inkwell::SupplierInterface* UI_GetDrawSupplier() const;
     // Each runs its hook, the pre-mouse hook and the mouse hook; false: not taken.
     virtual bool UI_DoPreMouseEvent(UI_Node* target, const MouseEvent& event);

@@ -1,4 +1,4 @@
-// The typed method idiom: reaching a control's own class from its wrapper.
+// Reaching a wrapper's node, or a control's own class, from a method's argument.
 #pragma once
 
 #include <cstddef>
@@ -13,16 +13,26 @@ struct lua_State;
 namespace zeblua {
 namespace ui {
 
-// A method of a control class:
+// The shape of every wrapper method:
 //   int knobSetValue(lua_State* L) {
-//       LuaControlWrapperBase* wrapper = GetControlUserData(L, 1);  // "Bad user data"
-//       if (!wrapper) return 0;
-//       const lua_Number value = luaL_checknumber(L, 2);             // plain values only
-//       zebui::controls::UI_Knob* knob = CastControlNode<zebui::controls::UI_Knob>(L, wrapper);
-//       if (!knob) return 0;                                         // released wrapper
-//       ...C++ objects may live from here on: nothing raises any more...
+//       if (!GetControlUserData(L, 1)) return 0;                  // "Bad user data"
+//       zebcore::geom::RectT<float> rect;                         // trivial values only
+//       inkwell::GetRectF32FromLua(L, 2, rect);                   // may run any script
+//       zebui::controls::UI_Knob* knob = CastControlNode<zebui::controls::UI_Knob>(L, 1);
+//       if (!knob) return 0;                                      // released meanwhile
+//       ...from here C++ objects may live: nothing raises any more; hold the node
+//       (boost::intrusive_ptr) across a call that can reach Lua, push results last...
 //   }
-// The cast raises a Lua error, so it comes before the method builds any C++ object.
+// Reading an argument can run script: a table's __index, a number's conversion to a
+// string (a collection step runs the finalizers of a script's own proxies). That script
+// may release the wrapper or end it with getmetatable(w).__gc(w), which frees it. So no
+// wrapper pointer is kept across the reads: the node is taken from the stack index again
+// once every argument is read. The cast raises a Lua error, so it comes before the method
+// builds any C++ object.
+
+// The node of the wrapper at index: null for a wrapper that was released or ended.
+// "Bad user data" for anything but a wrapper.
+zebui::ui::UI_Node* LiveNode(lua_State* L, int index);
 
 constexpr size_t kCastMessageSize = 256;
 
@@ -44,11 +54,11 @@ template <class T> T* TryCastNode(zebui::ui::UI_Node* node, char (&message)[kCas
     }
 }
 
-// The wrapper's node as a T; null for a null wrapper or a released one. A node of
-// another class raises the toolkit's conversion error as a Lua error, once the
+// The node of the wrapper at index as a T; null for a released or ended wrapper. A node
+// of another class raises the toolkit's conversion error as a Lua error, once the
 // exception and every C++ object of the cast are gone.
-template <class T> T* CastControlNode(lua_State* L, const LuaControlWrapperBase* wrapper) {
-    zebui::ui::UI_Node* node = wrapper ? wrapper->GetNode().get() : nullptr;
+template <class T> T* CastControlNode(lua_State* L, int index) {
+    zebui::ui::UI_Node* node = LiveNode(L, index);
     if (!node) return nullptr;
     char message[kCastMessageSize];
     T* result = TryCastNode<T>(node, message);
