@@ -59,32 +59,33 @@ void trim(benchmark::State& state, int ops) {
     runStringLoop(state, ops, "Trim", "f, a", "f(a)", {kPadded});
 }
 
+// ops runs of op per measured iteration.
+template <class Op> void repeatNative(benchmark::State& state, int ops, Op op) {
+    for (auto _ : state)
+        for (int i = 0; i < ops; ++i)
+            op();
+}
+
+const char* const kSentenceEnd = kSentence + sizeof kSentence - 1;
+
 void boostSearch(benchmark::State& state, int ops) {
     const ByteRegex regex(kWord);
-    const char* first = kSentence;
-    const char* last = first + sizeof kSentence - 1;
     boost::cmatch found;
-    for (auto _ : state) {
-        for (int i = 0; i < ops; ++i) {
-            benchmark::DoNotOptimize(boost::regex_search(first, last, found, regex));
-            benchmark::DoNotOptimize(found[0].first - first);
-        }
-    }
+    repeatNative(state, ops, [&] {
+        benchmark::DoNotOptimize(boost::regex_search(kSentence, kSentenceEnd, found, regex));
+        benchmark::DoNotOptimize(found[0].first - kSentence);
+    });
 }
 
 // Into one string, as a result is built before Lua copies it.
 void boostReplace(benchmark::State& state, int ops) {
     const ByteRegex regex(kWord);
-    const char* first = kSentence;
-    const char* last = first + sizeof kSentence - 1;
     std::string out;
-    for (auto _ : state) {
-        for (int i = 0; i < ops; ++i) {
-            out.clear();
-            boost::regex_replace(std::back_inserter(out), first, last, regex, kColour);
-            benchmark::DoNotOptimize(out.data());
-        }
-    }
+    repeatNative(state, ops, [&] {
+        out.clear();
+        boost::regex_replace(std::back_inserter(out), kSentence, kSentenceEnd, regex, kColour);
+        benchmark::DoNotOptimize(out.data());
+    });
 }
 
 void boostTrim(benchmark::State& state, int ops) {
@@ -92,14 +93,12 @@ void boostTrim(benchmark::State& state, int ops) {
     const ByteRegex trailingSpace(kTrailingSpace);
     const char* last = kPadded + sizeof kPadded - 1;
     boost::cmatch found;
-    for (auto _ : state) {
-        for (int i = 0; i < ops; ++i) {
-            boost::regex_search(kPadded, last, found, leadingSpace);
-            const char* first = found[0].second;
-            boost::regex_search(first, last, found, trailingSpace);
-            benchmark::DoNotOptimize(found[0].first - first);
-        }
-    }
+    repeatNative(state, ops, [&] {
+        boost::regex_search(kPadded, last, found, leadingSpace);
+        const char* first = found[0].second;
+        boost::regex_search(first, last, found, trailingSpace);
+        benchmark::DoNotOptimize(found[0].first - first);
+    });
 }
 
 }  // namespace

@@ -31,8 +31,7 @@ void pushMetatable(lua_State* L, const char* metatableName) {
 
 }  // namespace
 
-void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName, ModuleOpener opener) {
-    void* block = lua_newuserdata(L, size);
+void PushProxyMetatable(lua_State* L, const char* metatableName, ModuleOpener opener) {
     pushMetatable(L, metatableName);
     if (lua_isnil(L, -1)) {
         lua_pop(L, 1);
@@ -41,6 +40,11 @@ void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName, Module
         pushMetatable(L, metatableName);
         ZEB_ASSERT_MSG(!lua_isnil(L, -1), "The opener of a proxy made no metatable");
     }
+}
+
+void* NewProxyBlock(lua_State* L, size_t size, const char* metatableName, ModuleOpener opener) {
+    void* block = lua_newuserdata(L, size);
+    PushProxyMetatable(L, metatableName, opener);
     lua_setmetatable(L, -2);
     return block;
 }

@@ -29,6 +29,10 @@ template <class T> struct OwnedPointer {
 // The luaopen function of the module that registers a proxy's metatable.
 using ModuleOpener = int (*)(lua_State*);
 
+// Pushes the metatable registered under metatableName, opening its module first with
+// opener when it is missing. Raises Lua's memory error, or whatever the opener raises.
+void PushProxyMetatable(lua_State* L, const char* metatableName, ModuleOpener opener);
+
 // Pushes a new userdata of size bytes with the metatable registered under metatableName.
 // A proxy never reaches a script bare: when that module has not been opened yet, opener
 // opens it first (as require would, leaving its global table), so a proxy handed out

@@ -131,13 +131,7 @@ void pushEndedMetatable(lua_State* L) {
 // its ended form in the scope table on top of the stack.
 void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
                     utility::ModuleOpener opener) {
-    luaL_getmetatable(L, metatableName);
-    if (lua_isnil(L, -1)) {
-        lua_pop(L, 1);
-        lua_pushcfunction(L, opener);
-        lua_call(L, 0, 0);
-        luaL_getmetatable(L, metatableName);
-    }
+    utility::PushProxyMetatable(L, metatableName, opener);
     pushEndedMetatable(L);                          /* T, registered, ended */
     lua_rawseti(L, -3, metatableSlot(kind, true));  /* T, registered */
     lua_rawseti(L, -2, metatableSlot(kind, false)); /* T */
