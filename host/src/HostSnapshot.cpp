@@ -6,12 +6,24 @@
 #include <lua.hpp>
 
 #include "host/src/HostNodes.h"
+#include "os/NSWindow.h"
 #include "zebcore/utility/Strings.h"
+#include "zeblua/ui/src/LuaPopupWindow.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaResultString.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/controls/UI_InteractiveControlView.h"
+#include "zebui/controls/UI_PictureButton.h"
+#include "zebui/controls/UI_Popup.h"
+#include "zebui/controls/UI_ScrollView.h"
+#include "zebui/controls/UI_SearchBox.h"
+#include "zebui/controls/UI_SectionView.h"
+#include "zebui/controls/UI_SplitterView.h"
+#include "zebui/controls/UI_StaticImage.h"
+#include "zebui/controls/UI_TextEdit.h"
+#include "zebui/ui/OS_ViewContainer.h"
+#include "zebui/ui/UI_Dialog.h"
 #include "zebui/ui/UI_Node.h"
 
 namespace zebhost {
@@ -39,13 +51,6 @@ void fillInteractiveControlViewState(lua_State* L, const zui::UI_Node& node) {
     const auto* control = dynamic_cast<const controls::UI_InteractiveControlView*>(&node);
     if (control) setBoolean(L, "inInteractiveChange", control->IsInInteractiveChange());
 }
-
-// One per class with state of its own, each adding only its own fields: value, bounds,
-// text, opened, tabs, split and scroll join here as their classes gain them.
-const StateFiller kStateFillers[] = {
-    fillControlViewState,
-    fillInteractiveControlViewState,
-};
 
 // A plain rect table, made here so that no constructor of the script layer runs.
 void pushPlainRect(lua_State* L, const zebcore::geom::RectT<float>& rect) {
@@ -77,6 +82,108 @@ void setInteger(lua_State* L, const char* name, lua_Integer value) {
     lua_pushinteger(L, value);
     lua_setfield(L, -2, name);
 }
+
+void setNumber(lua_State* L, const char* name, lua_Number value) {
+    lua_pushnumber(L, value);
+    lua_setfield(L, -2, name);
+}
+
+// A text the node holds as UTF-8; the push copies it, so nothing is left if it raises.
+void setString(lua_State* L, const char* name, const zebcore::UTF8String& value) {
+    lua_pushlstring(L, value.data(), value.size());
+    lua_setfield(L, -2, name);
+}
+
+// imageName: the name the picture supply derives its images from; imageSupply: whether
+// the control has a supply function.
+void fillPictureState(lua_State* L, const zui::UI_Node& node) {
+    const controls::PictureSupplyClient* client = nullptr;
+    if (const auto* button = dynamic_cast<const controls::UI_PictureButton*>(&node)) {
+        setString(L, "imageName", button->GetImageBaseName());
+        client = button;
+    } else if (const auto* image = dynamic_cast<const controls::UI_StaticImage*>(&node)) {
+        setString(L, "imageName", image->GetImageName());
+        client = image;
+    }
+    if (client) setBoolean(L, "imageSupply", client->GetImageSupplyFunction() != nullptr);
+}
+
+void fillSearchBoxState(lua_State* L, const zui::UI_Node& node) {
+    const auto* box = dynamic_cast<const controls::UI_SearchBox*>(&node);
+    if (!box) return;
+    setBoolean(L, "firstFlag", box->GetFirstFlag());
+    setBoolean(L, "secondFlag", box->GetSecondFlag());
+    setBoolean(L, "searchHistory", box->mSearchHistory != nullptr);
+    setBoolean(L, "savedSearches", box->mSavedSearches != nullptr);
+}
+
+void fillTextEditState(lua_State* L, const zui::UI_Node& node) {
+    const auto* edit = dynamic_cast<const controls::UI_TextEdit*>(&node);
+    if (!edit) return;
+    setInteger(L, "flags", edit->GetEditFlags().GetValue());
+    setInteger(L, "alignment", edit->GetAlignment());
+    setNumber(L, "customFontSize", edit->GetCustomFontSize());
+}
+
+// contentView: the id of the content view it was made with.
+void fillScrollViewState(lua_State* L, const zui::UI_Node& node) {
+    const auto* scroller = dynamic_cast<const controls::UI_ScrollView*>(&node);
+    if (!scroller) return;
+    setInteger(L, "flags", scroller->GetScrollFlags().GetValue());
+    if (const zui::UI_SubView* content = scroller->GetContentView())
+        setString(L, "contentView", content->UI_GetNodeID());
+}
+
+void fillSplitterState(lua_State* L, const zui::UI_Node& node) {
+    const auto* splitter = dynamic_cast<const controls::UI_SplitterView*>(&node);
+    if (!splitter) return;
+    setInteger(L, "direction", splitter->GetDirection());
+    setNumber(L, "split", splitter->GetSplit());
+    setNumber(L, "barWidth", splitter->GetBarWidth());
+}
+
+void fillSectionState(lua_State* L, const zui::UI_Node& node) {
+    const auto* section = dynamic_cast<const controls::UI_SectionView*>(&node);
+    if (!section) return;
+    setConvertedText(L, "title", section->GetTitle());
+    setBoolean(L, "opened", section->IsOpened());
+}
+
+void fillPopupState(lua_State* L, const zui::UI_Node& node) {
+    if (const auto* popup = dynamic_cast<const controls::UI_Popup*>(&node))
+        setInteger(L, "popupType", popup->GetPopupType());
+}
+
+void fillWindowState(lua_State* L, const zui::UI_Node& node) {
+    if (const auto* container = dynamic_cast<const zui::OS_ViewContainer*>(&node))
+        setBoolean(L, "popsUp", container->PopsUp());
+    if (const auto* popup = dynamic_cast<const zeblua::ui::LuaPopupWindow*>(&node))
+        setBoolean(L, "floating", popup->IsFloating());
+}
+
+// owner: the id of the owner node, or of the toolkit window of the owning operating
+// system window (ownerIsPlatformWindow then true); absent for a dialog without owner.
+void fillDialogState(lua_State* L, const zui::UI_Node& node) {
+    const auto* dialog = dynamic_cast<const zui::UI_Dialog*>(&node);
+    if (!dialog) return;
+    setConvertedText(L, "title", dialog->GetTitle());
+    const NSWindow* platformOwner = dialog->GetOwnerWindow();
+    const zui::UI_Node* owner =
+        platformOwner ? platformOwner->GetToolkitWindow() : dialog->GetOwnerNode();
+    if (owner) setString(L, "owner", owner->UI_GetNodeID());
+    setBoolean(L, "ownerIsPlatformWindow", platformOwner != nullptr);
+}
+
+// One per class with state of its own, each adding only its own fields: value, bounds,
+// text, opened, tabs, split and scroll join here as their classes gain them.
+const StateFiller kStateFillers[] = {
+    fillControlViewState, fillInteractiveControlViewState,
+    fillPictureState,     fillSearchBoxState,
+    fillTextEditState,    fillScrollViewState,
+    fillSplitterState,    fillSectionState,
+    fillPopupState,       fillWindowState,
+    fillDialogState,
+};
 
 // What UI_Invalidate and UI_UpdateNow were asked since the record was last cleared.
 void pushRedrawRecord(lua_State* L, const zui::UI_Node::RedrawRecord& record) {
