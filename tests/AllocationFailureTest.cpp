@@ -1,5 +1,5 @@
-// Every function of zebString, zeblua.numeric and the drawing and glue modules, run with
-// Lua's allocator failing at each of its allocations in turn.
+// Every function of zebString, zeblua.numeric, the drawing and glue modules and change
+// notification, run with Lua's allocator failing at each of its allocations in turn.
 #include <string>
 
 #include <gmock/gmock.h>
@@ -185,6 +185,39 @@ TEST_F(AllocationFailureTest, DrawingAndGlueFunctionsLeaveNothingBehind) {
     draw(mCanvas.inkwell, "sweepDrawing");
     EXPECT_EQ(luaValue("problems"), "");
     EXPECT_GE(std::stoi(luaValue("swept")), 20);
+    collectGarbage();
+    EXPECT_EQ(leaks(), 0);
+}
+
+// A failure inside a notification's own pushes (the message table, the sender's wrapper)
+// stays in its protected frame and loses neither the sender's reference nor a wrapper.
+TEST_F(AllocationFailureTest, ChangeNotificationLeavesNothingBehind) {
+    runLua(R"(
+        require "zeblua.luaTestingSupport"
+        local T = luaTestingSupport
+        local box = zebhost.newNode("UI_Checkbox")
+        box:NotifyWhenChanged(function() end)
+        box:NotifyWhenChangedInteractively(function(msg) return msg.control:UI_GetNodeID() end)
+        problems = sweep({
+            NotifyWhenChanged = function() return box:NotifyWhenChanged(function() end) end,
+            NotifyWhenChangedInteractively = function()
+                return box:NotifyWhenChangedInteractively(function() end)
+            end,
+            SendControlValueChangeMessage = function() T.SendControlValueChangeMessage(box) end,
+            Phases = function()
+                T.SimulateBeginInteractiveChange(box)
+                T.SimulateContinueInteractiveChange(box, 1)
+                T.SimulateFinishInteractiveChange(box)
+            end,
+            ControlViewMethods = function()
+                box:SetEnabled(); box:SetValueUnknown(); box:SetSuppressFocusDrawing()
+                return box:GetEnabled(), box:IsValueUnknown(), box:GetSuppressFocusDrawing()
+            end,
+        })
+        box = nil
+    )");
+    EXPECT_EQ(luaValue("problems"), "");
+    EXPECT_EQ(luaValue("swept"), "5") << "every call met a failure";
     collectGarbage();
     EXPECT_EQ(leaks(), 0);
 }

@@ -1,0 +1,70 @@
+// What the methods of the control classes share: the typed method idiom on a held control.
+#pragma once
+
+#include <boost/intrusive_ptr.hpp>
+#include <lua.hpp>
+
+#include "zeblua/ui/src/ControlNodeCast.h"
+#include "zeblua/utility/src/RunNative.h"
+
+namespace zeblua {
+namespace ui {
+
+// Each helper takes the node of argument 1 as a T when it is called, so a method calls
+// it once all its arguments are read (ControlNodeCast.h): a node of another class raises
+// "Invalid type conversion.", a released or ended wrapper answers nothing. The control is
+// held for the call, which may reach Lua (a value change runs the change functions) and
+// drop every other reference; the wrapper is never touched after it.
+
+// call(control) for its effect; no result.
+template <class T, class Call> int CallOnControl(lua_State* L, const char* name, Call call) {
+    T* control = CastControlNode<T>(L, 1);
+    if (!control) return 0;
+    return utility::RunNative(L, name, [&] {
+        const boost::intrusive_ptr<T> held(control);
+        call(*held);
+        return 0;
+    });
+}
+
+// What query(control) answers, pushed as a boolean.
+template <class T, class Query> int AnswerOfControl(lua_State* L, const char* name, Query query) {
+    T* control = CastControlNode<T>(L, 1);
+    if (!control) return 0;
+    const bool answer = utility::RunNative(L, name, [&] {
+        const boost::intrusive_ptr<T> held(control);
+        return query(*held);
+    });
+    lua_pushboolean(L, answer);
+    return 1;
+}
+
+// -- ok = control:NotifyWhenChanged(fn) and its kind: add(L, control, reference) with a
+// registry reference to the value on top of the stack (so exactly two arguments are
+// expected). false for a released wrapper, or when add refuses (the reference is then
+// released); a function argument that isn't one is Lua's type error, a control of another
+// class the conversion error, both raised before the reference is taken.
+template <class T>
+int AddNotifyFunction(lua_State* L, const char* name, bool (*add)(lua_State*, T*, int)) {
+    bool live = false;
+    if (GetControlUserData(L, 1)) {
+        luaL_checktype(L, 2, LUA_TFUNCTION);
+        live = CastControlNode<T>(L, 1) != nullptr;
+    }
+    if (!live) {
+        lua_pushboolean(L, 0);
+        return 1;
+    }
+    const int reference = luaL_ref(L, LUA_REGISTRYINDEX);
+    T* control = CastControlNode<T>(L, 1);  // taking the reference may collect, and so run script
+    const bool added = control && utility::RunNative(L, name, [&] {
+                           const boost::intrusive_ptr<T> held(control);
+                           return add(L, held.get(), reference);
+                       });
+    if (!added) luaL_unref(L, LUA_REGISTRYINDEX, reference); /* nobody holds it */
+    lua_pushboolean(L, added);
+    return 1;
+}
+
+}  // namespace ui
+}  // namespace zeblua
