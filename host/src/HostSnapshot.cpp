@@ -12,6 +12,7 @@
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaResultString.h"
 #include "zeblua/utility/src/RunNative.h"
+#include "zebui/controls/UI_Checkbox.h"
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/controls/UI_InteractiveControlView.h"
 #include "zebui/controls/UI_PictureButton.h"
@@ -50,6 +51,11 @@ void fillControlViewState(lua_State* L, const zui::UI_Node& node) {
 void fillInteractiveControlViewState(lua_State* L, const zui::UI_Node& node) {
     const auto* control = dynamic_cast<const controls::UI_InteractiveControlView*>(&node);
     if (control) setBoolean(L, "inInteractiveChange", control->IsInInteractiveChange());
+}
+
+void fillCheckboxState(lua_State* L, const zui::UI_Node& node) {
+    const auto* box = dynamic_cast<const controls::UI_Checkbox*>(&node);
+    if (box) setBoolean(L, "checked", box->IsChecked());
 }
 
 // A plain rect table, made here so that no constructor of the script layer runs.
@@ -178,11 +184,11 @@ void fillDialogState(lua_State* L, const zui::UI_Node& node) {
 // text, opened, tabs, split and scroll join here as their classes gain them.
 const StateFiller kStateFillers[] = {
     fillControlViewState, fillInteractiveControlViewState,
-    fillPictureState,     fillSearchBoxState,
-    fillTextEditState,    fillScrollViewState,
-    fillSplitterState,    fillSectionState,
-    fillPopupState,       fillWindowState,
-    fillDialogState,
+    fillCheckboxState,    fillPictureState,
+    fillSearchBoxState,   fillTextEditState,
+    fillScrollViewState,  fillSplitterState,
+    fillSectionState,     fillPopupState,
+    fillWindowState,      fillDialogState,
 };
 
 // What UI_Invalidate and UI_UpdateNow were asked since the record was last cleared.
