@@ -14,14 +14,20 @@
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_Checkbox.h"
 #include "zebui/controls/UI_ControlView.h"
+#include "zebui/controls/UI_HotTextNumber.h"
 #include "zebui/controls/UI_InteractiveControlView.h"
+#include "zebui/controls/UI_Knob.h"
 #include "zebui/controls/UI_PictureButton.h"
 #include "zebui/controls/UI_Popup.h"
+#include "zebui/controls/UI_ScrollBar.h"
 #include "zebui/controls/UI_ScrollView.h"
 #include "zebui/controls/UI_SearchBox.h"
 #include "zebui/controls/UI_SectionView.h"
+#include "zebui/controls/UI_Slider.h"
 #include "zebui/controls/UI_SplitterView.h"
 #include "zebui/controls/UI_StaticImage.h"
+#include "zebui/controls/UI_StaticText.h"
+#include "zebui/controls/UI_TextControlBase.h"
 #include "zebui/controls/UI_TextEdit.h"
 #include "zebui/ui/OS_ViewContainer.h"
 #include "zebui/ui/UI_Dialog.h"
@@ -123,12 +129,16 @@ void fillSearchBoxState(lua_State* L, const zui::UI_Node& node) {
     setBoolean(L, "savedSearches", box->mSavedSearches != nullptr);
 }
 
+// stringValue: the text; selectionStart, selectionEnd: UTF-16 positions from 0.
 void fillTextEditState(lua_State* L, const zui::UI_Node& node) {
     const auto* edit = dynamic_cast<const controls::UI_TextEdit*>(&node);
     if (!edit) return;
     setInteger(L, "flags", edit->GetEditFlags().GetValue());
     setInteger(L, "alignment", edit->GetAlignment());
-    setNumber(L, "customFontSize", edit->GetCustomFontSize());
+    setConvertedText(L, "stringValue", edit->GetValue());
+    setInteger(L, "selectionStart", static_cast<lua_Integer>(edit->GetSelection().first));
+    setInteger(L, "selectionEnd", static_cast<lua_Integer>(edit->GetSelection().second));
+    setConvertedText(L, "ghostText", edit->GetGhostText());
 }
 
 // contentView: the id of the content view it was made with.
@@ -182,13 +192,96 @@ void fillDialogState(lua_State* L, const zui::UI_Node& node) {
 
 // One per class with state of its own, each adding only its own fields: value, bounds,
 // text, opened, tabs, split and scroll join here as their classes gain them.
+// The label of every control that shows a text: label, fontSizeId, textAlignment and
+// customFontSize (0: none).
+void fillTextControlState(lua_State* L, const zui::UI_Node& node) {
+    const auto* text = dynamic_cast<const controls::UI_TextControlBase*>(&node);
+    if (!text) return;
+    setConvertedText(L, "label", text->GetLabelText());
+    setInteger(L, "fontSizeId", text->GetFontSizeId());
+    setInteger(L, "textAlignment", text->GetTextAlignment());
+    setNumber(L, "customFontSize", text->GetCustomFontSize());
+}
+
+// Hot texts: text (what is shown) and alignment; a number also its value, bounds,
+// increment, decimal places and numeric input.
+void fillHotTextState(lua_State* L, const zui::UI_Node& node) {
+    const auto* hotText = dynamic_cast<const controls::UI_HotText*>(&node);
+    if (!hotText) return;
+    setConvertedText(L, "text", hotText->GetText());
+    setInteger(L, "alignment", hotText->GetAlignment());
+    const auto* number = dynamic_cast<const controls::UI_HotTextNumber*>(&node);
+    if (!number) return;
+    setNumber(L, "value", number->GetValue());
+    setNumber(L, "minValue", number->GetMinValue());
+    setNumber(L, "maxValue", number->GetMaxValue());
+    setNumber(L, "increment", number->GetIncrement());
+    setInteger(L, "decimalPlaces", number->GetDecimalPlaces());
+    setBoolean(L, "numericInput", number->GetNumericInput());
+}
+
+// Knobs: value, minValue, maxValue. Sliders: value and the extent's two ends. Scroll bars:
+// the pair (valueStart, valueEnd) and the extent.
+void fillNumberControlState(lua_State* L, const zui::UI_Node& node) {
+    if (const auto* knob = dynamic_cast<const controls::UI_Knob*>(&node)) {
+        setNumber(L, "value", knob->GetValue());
+        setNumber(L, "minValue", knob->GetMinValue());
+        setNumber(L, "maxValue", knob->GetMaxValue());
+    } else if (const auto* slider = dynamic_cast<const controls::UI_Slider*>(&node)) {
+        setNumber(L, "value", slider->GetValue());
+        setNumber(L, "extentLow", slider->GetExtent().first);
+        setNumber(L, "extentHigh", slider->GetExtent().second);
+    } else if (const auto* bar = dynamic_cast<const controls::UI_ScrollBar*>(&node)) {
+        setNumber(L, "valueStart", bar->GetValue().first);
+        setNumber(L, "valueEnd", bar->GetValue().second);
+        setNumber(L, "extentLow", bar->GetExtent().first);
+        setNumber(L, "extentHigh", bar->GetExtent().second);
+    }
+}
+
+// A list of UTF-16 texts as the array field name of the table on top.
+template <class Texts> void setTextList(lua_State* L, const char* name, const Texts& texts) {
+    lua_createtable(L, static_cast<int>(texts.size()), 0);
+    int index = 0;
+    for (const zebcore::UTF16String& text : texts) {
+        lua_createtable(L, 0, 1);
+        setConvertedText(L, "text", text);
+        lua_getfield(L, -1, "text");
+        lua_rawseti(L, -3, ++index);
+        lua_pop(L, 1); /* the holder of the text */
+    }
+    lua_setfield(L, -2, name);
+}
+
+// Popups: items, valueString, tightMargins. Static texts: stringValue, hasCustomTextColor.
+// Static images: alpha. Search boxes: the three largest sizes and the recent searches.
+void fillValueTextState(lua_State* L, const zui::UI_Node& node) {
+    if (const auto* popup = dynamic_cast<const controls::UI_Popup*>(&node)) {
+        setTextList(L, "items", popup->GetItems());
+        setConvertedText(L, "valueString", popup->GetValueString());
+        setBoolean(L, "tightMargins", popup->GetTightMargins());
+    } else if (const auto* text = dynamic_cast<const controls::UI_StaticText*>(&node)) {
+        setConvertedText(L, "stringValue", text->GetValue());
+        setBoolean(L, "hasCustomTextColor", text->GetCustomTextColor() != nullptr);
+    } else if (const auto* image = dynamic_cast<const controls::UI_StaticImage*>(&node)) {
+        setNumber(L, "alpha", image->GetAlpha());
+    } else if (const auto* box = dynamic_cast<const controls::UI_SearchBox*>(&node)) {
+        setInteger(L, "searchHistoryMaxSize", box->GetSearchHistoryMaxSize());
+        setInteger(L, "savedSearchMaxSize", box->GetSavedSearchMaxSize());
+        setInteger(L, "searchHistoryDisplayMaxSize", box->GetSearchHistoryDisplayMaxSize());
+        if (box->mSearchHistory) setTextList(L, "recentSearches", *box->mSearchHistory);
+    }
+}
+
 const StateFiller kStateFillers[] = {
-    fillControlViewState, fillInteractiveControlViewState,
-    fillCheckboxState,    fillPictureState,
-    fillSearchBoxState,   fillTextEditState,
-    fillScrollViewState,  fillSplitterState,
-    fillSectionState,     fillPopupState,
-    fillWindowState,      fillDialogState,
+    fillControlViewState,   fillInteractiveControlViewState,
+    fillCheckboxState,      fillPictureState,
+    fillSearchBoxState,     fillTextEditState,
+    fillScrollViewState,    fillSplitterState,
+    fillSectionState,       fillPopupState,
+    fillWindowState,        fillDialogState,
+    fillTextControlState,   fillHotTextState,
+    fillNumberControlState, fillValueTextState,
 };
 
 // What UI_Invalidate and UI_UpdateNow were asked since the record was last cleared.

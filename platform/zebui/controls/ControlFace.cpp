@@ -82,14 +82,14 @@ void FillPolygon(inkwell::Inkwell* inkwell, const PointT<float>* points, int cou
 }
 
 void DrawText(inkwell::Inkwell* inkwell, const zebcore::UTF16String& text, const RectT<float>& rect,
-              inkwell::TextAlignment alignment) {
+              inkwell::TextAlignment alignment, float size, const inkwell::ColorRGBA& colour) {
     if (!drawable(inkwell) || text.empty()) return;
     const inkwell::SupplierInterface& supplier = *inkwell->GetSupplier();
     const zebcore::UTF16String family = ui::GetFontName(0);
-    const float size = UI_ControlView::DefaultTextSize();
+    if (!(size > 0)) size = UI_ControlView::DefaultTextSize();
     const Held<inkwell::FontInterface> font(
         supplier.MakeFont(reinterpret_cast<const unsigned short*>(family.c_str()), nullptr, size));
-    const Held<inkwell::BrushInterface> brush(supplier.MakeBrush(kText));
+    const Held<inkwell::BrushInterface> brush(supplier.MakeBrush(colour));
     // Lines are a little taller than the size; centre that height.
     const float top = rect.top + (rect.height - size * 1.2f) / 2;
     inkwell->GetSurface()->DrawString(*brush, *font, text, PointT<float>(rect.left, top), alignment,
@@ -97,9 +97,9 @@ void DrawText(inkwell::Inkwell* inkwell, const zebcore::UTF16String& text, const
 }
 
 void DrawImage(inkwell::Inkwell* inkwell, const Held<inkwell::ImageInterface>& image,
-               const RectT<float>& rect) {
+               const RectT<float>& rect, float opacity) {
     if (!drawable(inkwell) || !image) return;
-    inkwell->GetSurface()->DrawImage2(inkwell->GetSupplier(), *image, rect, nullptr, 1.0f);
+    inkwell->GetSurface()->DrawImage2(inkwell->GetSupplier(), *image, rect, nullptr, opacity);
 }
 
 }  // namespace face

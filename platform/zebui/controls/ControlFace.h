@@ -43,13 +43,14 @@ void FrameCircle(inkwell::Inkwell* inkwell, const zebcore::geom::PointT<float>& 
 void FillPolygon(inkwell::Inkwell* inkwell, const zebcore::geom::PointT<float>* points, int count,
                  const inkwell::ColorRGBA& colour);
 // One line of text in the default font, centred vertically in rect and aligned within its
-// width, the end ellipsized when it does not fit.
+// width, the end ellipsized when it does not fit. A size of 0 is the default text size.
 void DrawText(inkwell::Inkwell* inkwell, const zebcore::UTF16String& text,
-              const zebcore::geom::RectT<float>& rect, inkwell::TextAlignment alignment);
-// The whole image scaled into rect.
+              const zebcore::geom::RectT<float>& rect, inkwell::TextAlignment alignment,
+              float size = 0, const inkwell::ColorRGBA& colour = kText);
+// The whole image scaled into rect, at opacity (0 to 1).
 void DrawImage(inkwell::Inkwell* inkwell,
                const boost::intrusive_ptr<inkwell::ImageInterface>& image,
-               const zebcore::geom::RectT<float>& rect);
+               const zebcore::geom::RectT<float>& rect, float opacity = 1.0f);
 
 }  // namespace face
 }  // namespace controls

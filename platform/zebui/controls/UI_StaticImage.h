@@ -17,6 +17,9 @@ public:
     // 8-bit text, kept as given; empty means no image.
     void SetImageName(const zebcore::UTF8String& name);
     const zebcore::UTF8String& GetImageName() const { return mImageName; }
+    // The opacity the image is drawn at, kept as given (1 at the start); drawn within 0 to 1.
+    float GetAlpha() const { return mAlpha; }
+    void SetAlpha(float alpha);
 
 protected:
     // The supplied image, plain state, scaled to the whole control.
@@ -24,6 +27,7 @@ protected:
 
 private:
     zebcore::UTF8String mImageName;
+    float mAlpha = 1.0f;
 };
 
 }  // namespace controls

@@ -1,6 +1,8 @@
 // What the methods of the control classes share: the typed method idiom on a held control.
 #pragma once
 
+#include <type_traits>
+
 #include <boost/intrusive_ptr.hpp>
 #include <lua.hpp>
 
@@ -16,13 +18,22 @@ namespace ui {
 // held for the call, which may reach Lua (a value change runs the change functions) and
 // drop every other reference; the wrapper is never touched after it.
 
+// A counted hold on the node that control belongs to. T may be a further base of the node
+// with no count of its own (the text control base), so the node is what is held.
+template <class T> boost::intrusive_ptr<zebui::ui::UI_Node> HoldNode(T* control) {
+    if constexpr (std::is_base_of<zebui::ui::UI_Node, T>::value)
+        return boost::intrusive_ptr<zebui::ui::UI_Node>(control);
+    else
+        return boost::intrusive_ptr<zebui::ui::UI_Node>(dynamic_cast<zebui::ui::UI_Node*>(control));
+}
+
 // call(control) for its effect; no result.
 template <class T, class Call> int CallOnControl(lua_State* L, const char* name, Call call) {
     T* control = CastControlNode<T>(L, 1);
     if (!control) return 0;
     return utility::RunNative(L, name, [&] {
-        const boost::intrusive_ptr<T> held(control);
-        call(*held);
+        const auto held = HoldNode(control);
+        call(*control);
         return 0;
     });
 }
@@ -32,8 +43,8 @@ template <class T, class Query> int AnswerOfControl(lua_State* L, const char* na
     T* control = CastControlNode<T>(L, 1);
     if (!control) return 0;
     const bool answer = utility::RunNative(L, name, [&] {
-        const boost::intrusive_ptr<T> held(control);
-        return query(*held);
+        const auto held = HoldNode(control);
+        return query(*control);
     });
     lua_pushboolean(L, answer);
     return 1;
@@ -58,8 +69,8 @@ int AddNotifyFunction(lua_State* L, const char* name, bool (*add)(lua_State*, T*
     const int reference = luaL_ref(L, LUA_REGISTRYINDEX);
     T* control = CastControlNode<T>(L, 1);  // taking the reference may collect, and so run script
     const bool added = control && utility::RunNative(L, name, [&] {
-                           const boost::intrusive_ptr<T> held(control);
-                           return add(L, held.get(), reference);
+                           const auto held = HoldNode(control);
+                           return add(L, control, reference);
                        });
     if (!added) luaL_unref(L, LUA_REGISTRYINDEX, reference); /* nobody holds it */
     lua_pushboolean(L, added);

@@ -63,14 +63,6 @@ void readMouseEventFields(lua_State* L, int index, MouseEventFields& fields) {
     lua_pop(L, 2);
 }
 
-// Numbers are truncated toward zero as C++ converts them; beyond int's range they stop at
-// its ends and NaN gives 0, where the conversion itself would be undefined.
-int truncated(double value) {
-    if (value != value) return 0;
-    return static_cast<int>(std::clamp(value, static_cast<double>(std::numeric_limits<int>::min()),
-                                       static_cast<double>(std::numeric_limits<int>::max())));
-}
-
 }  // namespace
 
 int PushKeyboardEventToLua(lua_State* L, const KeyboardEvent& event) {
@@ -111,15 +103,21 @@ bool GetMouseEventFromLua(lua_State* L, int index, std::unique_ptr<MouseEvent>& 
     const zebui::ui::ModifierFlags modKey = ModifiersFromNumber(fields.modKey);
     const zebcore::geom::PointT<float> position(static_cast<float>(fields.x),
                                                 static_cast<float>(fields.y));
-    event.reset(new MouseEvent(action, truncated(fields.button), truncated(fields.clickCount),
-                               position, modKey, zebui::ui::OS_Event(),
-                               truncated(fields.mouseWheelDelta), truncated(fields.mouseWheelAxis),
-                               0.0f, 0.0f, zebui::ui::kSwipeDirection_None, 0));
+    event.reset(new MouseEvent(
+        action, TruncatedInt(fields.button), TruncatedInt(fields.clickCount), position, modKey,
+        zebui::ui::OS_Event(), TruncatedInt(fields.mouseWheelDelta),
+        TruncatedInt(fields.mouseWheelAxis), 0.0f, 0.0f, zebui::ui::kSwipeDirection_None, 0));
     return true;
 }
 
+int TruncatedInt(double value) {
+    if (value != value) return 0;
+    return static_cast<int>(std::clamp(value, static_cast<double>(std::numeric_limits<int>::min()),
+                                       static_cast<double>(std::numeric_limits<int>::max())));
+}
+
 zebui::ui::ModifierFlags ModifiersFromNumber(double value) {
-    return static_cast<unsigned char>(truncated(value) & 0xFF);
+    return static_cast<unsigned char>(TruncatedInt(value) & 0xFF);
 }
 
 }  // namespace ui

@@ -44,8 +44,11 @@ int PushMouseEventToLua(lua_State* L, const zebui::ui::MouseEvent& event);
 // (A std::unique_ptr, as std::auto_ptr is gone from C++17.)
 bool GetMouseEventFromLua(lua_State* L, int index, std::unique_ptr<zebui::ui::MouseEvent>& event);
 
-// A script's number as the modifier byte: truncated toward zero (stopping at int's ends,
-// NaN giving 0), then cut to its low 8 bits.
+// A script's number as an int: truncated toward zero as C++ converts it, stopping at int's
+// ends and NaN giving 0, where the conversion itself would be undefined.
+int TruncatedInt(double value);
+
+// A script's number as the modifier byte: TruncatedInt, then cut to its low 8 bits.
 zebui::ui::ModifierFlags ModifiersFromNumber(double value);
 
 }  // namespace ui

@@ -20,5 +20,12 @@ public:
     static const luaL_Reg methods[];
 };
 
+// Shared with the search box, which is a text edit.
+// -- edit:SetStringValue(text): a change of value when the text differs; the caret goes to
+// the end.
+int texteditSetStringValue(lua_State* L);
+// -- text = edit:GetStringValue()
+int texteditGetStringValue(lua_State* L);
+
 }  // namespace ui
 }  // namespace zeblua

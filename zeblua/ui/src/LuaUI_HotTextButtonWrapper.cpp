@@ -5,11 +5,27 @@
 
 #include "zeblua/ui/src/LuaInteractiveControlViewWrapper.h"
 #include "zeblua/ui/src/LuaTextControlBaseWrapper.h"
+#include "zeblua/ui/src/ValueMethodSupport.h"
+#include "zebui/controls/UI_HotTextButton.h"
 
 namespace zeblua {
 namespace ui {
+namespace {
+
+using zebui::controls::UI_HotTextButton;
+
+// -- button:SetText(text): what the button shows after its label.
+int hottextButtonSetText(lua_State* L) {
+    return SetTextOfControl<UI_HotTextButton>(
+        L, "SetText",
+        [](UI_HotTextButton& button, const zebcore::UTF16String& text) { button.SetText(text); });
+}
+
+}  // namespace
 
 const luaL_Reg LuaUI_HotTextButtonWrapper::methods[] = {
+    {"SetText", hottextButtonSetText},
+    {"SetCustomFontSize", SetCustomFontSizeOf<UI_HotTextButton>},
     {nullptr, nullptr},
 };
 

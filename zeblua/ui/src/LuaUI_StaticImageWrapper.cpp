@@ -4,11 +4,44 @@
 #include <lua.hpp>
 
 #include "zeblua/ui/src/LuaControlViewWrapper.h"
+#include "zeblua/ui/src/ValueMethodSupport.h"
+#include "zebui/controls/UI_StaticImage.h"
 
 namespace zeblua {
 namespace ui {
+namespace {
+
+using zebui::controls::UI_StaticImage;
+
+// -- image:SetImageName(name): 8-bit, kept as given.
+int controlSetImageName(lua_State* L) {
+    if (!GetControlUserData(L, 1)) return 0;
+    size_t length = 0;
+    const char* bytes = luaL_checklstring(L, 2, &length);  // the stack holds the bytes
+    return CallOnControl<UI_StaticImage>(L, "SetImageName", [&](UI_StaticImage& image) {
+        image.SetImageName(zebcore::UTF8String(bytes, length));
+    });
+}
+
+// -- alpha = image:GetAlpha()
+int controlGetAlpha(lua_State* L) {
+    return AnswerOfControl<UI_StaticImage>(L, "GetAlpha",
+                                           [](UI_StaticImage& image) { return image.GetAlpha(); });
+}
+
+// -- image:SetAlpha(alpha): as a float.
+int controlSetAlpha(lua_State* L) {
+    return SetNumberOfControl<UI_StaticImage>(
+        L, "SetAlpha",
+        [](UI_StaticImage& image, lua_Number alpha) { image.SetAlpha(static_cast<float>(alpha)); });
+}
+
+}  // namespace
 
 const luaL_Reg LuaUI_StaticImageWrapper::methods[] = {
+    {"SetImageName", controlSetImageName},
+    {"GetAlpha", controlGetAlpha},
+    {"SetAlpha", controlSetAlpha},
     {nullptr, nullptr},
 };
 
