@@ -38,16 +38,33 @@ template <class T, class Call> int CallOnControl(lua_State* L, const char* name,
     });
 }
 
-// What query(control) answers, pushed as a boolean.
-template <class T, class Query> int AnswerOfControl(lua_State* L, const char* name, Query query) {
+// push(L, query(control)), once the control has let go: push may run script (a geometry
+// constructor) and may raise. It answers the number of results.
+template <class T, class Query, class Push>
+int PushControlAnswer(lua_State* L, const char* name, Query query, Push push) {
     T* control = CastControlNode<T>(L, 1);
     if (!control) return 0;
-    const bool answer = utility::RunNative(L, name, [&] {
+    const auto answer = utility::RunNative(L, name, [&] {
         const auto held = HoldNode(control);
         return query(*control);
     });
-    lua_pushboolean(L, answer);
+    return push(L, answer);
+}
+
+// A plain answer as Lua has it: a bool as a boolean, any other arithmetic value a number.
+template <class Answer> int PushPlainAnswer(lua_State* L, Answer answer) {
+    if constexpr (std::is_same<Answer, bool>::value)
+        lua_pushboolean(L, answer);
+    else
+        lua_pushnumber(L, static_cast<lua_Number>(answer));
     return 1;
+}
+
+// What query(control) answers, pushed as a boolean or a number.
+template <class T, class Query> int AnswerOfControl(lua_State* L, const char* name, Query query) {
+    return PushControlAnswer<T>(L, name, query, [](lua_State* state, auto answer) {
+        return PushPlainAnswer(state, answer);
+    });
 }
 
 // -- ok = control:NotifyWhenChanged(fn) and its kind: add(L, control, reference) with a
