@@ -27,11 +27,14 @@
 #include "zebui/controls/UI_SplitterView.h"
 #include "zebui/controls/UI_StaticImage.h"
 #include "zebui/controls/UI_StaticText.h"
+#include "zebui/controls/UI_TabItem.h"
+#include "zebui/controls/UI_TabWell.h"
 #include "zebui/controls/UI_TextControlBase.h"
 #include "zebui/controls/UI_TextEdit.h"
 #include "zebui/ui/OS_ViewContainer.h"
 #include "zebui/ui/UI_Dialog.h"
 #include "zebui/ui/UI_Node.h"
+#include "zebui/ui/UI_SubView.h"
 
 namespace zebhost {
 namespace {
@@ -148,6 +151,10 @@ void fillScrollViewState(lua_State* L, const zui::UI_Node& node) {
     setInteger(L, "flags", scroller->GetScrollFlags().GetValue());
     if (const zui::UI_SubView* content = scroller->GetContentView())
         setString(L, "contentView", content->UI_GetNodeID());
+    setNumber(L, "scrollX", scroller->GetScrollOffset().x);
+    setNumber(L, "scrollY", scroller->GetScrollOffset().y);
+    setNumber(L, "scaleX", scroller->GetScale().x);
+    setNumber(L, "scaleY", scroller->GetScale().y);
 }
 
 void fillSplitterState(lua_State* L, const zui::UI_Node& node) {
@@ -163,6 +170,34 @@ void fillSectionState(lua_State* L, const zui::UI_Node& node) {
     if (!section) return;
     setConvertedText(L, "title", section->GetTitle());
     setBoolean(L, "opened", section->IsOpened());
+    setNumber(L, "headerHeight", section->GetHeaderHeight());
+}
+
+// layoutBinding: the bits by which a sub view follows its parent's edges; layoutsChildren:
+// whether it moves its own children when it is resized.
+void fillLayoutState(lua_State* L, const zui::UI_Node& node) {
+    const auto* view = dynamic_cast<const zui::UI_SubView*>(&node);
+    if (!view) return;
+    setInteger(L, "layoutBinding", view->UI_GetLayoutBinding().GetValue());
+    setBoolean(L, "layoutsChildren", view->UI_GetLayoutsChildren());
+}
+
+// tabs: the tabs' texts in order; frontmost: the front-most tab's number (from 0), -1 for
+// none; tabsOnly: whether the well shows its tabs only.
+void fillTabWellState(lua_State* L, const zui::UI_Node& node) {
+    const auto* well = dynamic_cast<const controls::UI_TabWell*>(&node);
+    if (!well) return;
+    lua_createtable(L, well->GetTabCount(), 0);
+    for (int index = 0; index < well->GetTabCount(); ++index) {
+        lua_createtable(L, 0, 1);
+        setConvertedText(L, "text", well->GetTabItem(index)->GetText());
+        lua_getfield(L, -1, "text");
+        lua_rawseti(L, -3, index + 1);
+        lua_pop(L, 1); /* the holder of the text */
+    }
+    lua_setfield(L, -2, "tabs");
+    setInteger(L, "frontmost", well->GetFrontmost());
+    setBoolean(L, "tabsOnly", well->GetShowTabsOnly());
 }
 
 void fillPopupState(lua_State* L, const zui::UI_Node& node) {
@@ -280,6 +315,7 @@ const StateFiller kStateFillers[] = {
     fillScrollViewState,    fillSplitterState,
     fillSectionState,       fillPopupState,
     fillWindowState,        fillDialogState,
+    fillLayoutState,        fillTabWellState,
     fillTextControlState,   fillHotTextState,
     fillNumberControlState, fillValueTextState,
 };

@@ -57,6 +57,10 @@ enum DrawCachePolicy : int {
 class UI_Node : public zebcore::utility::RefCountedObject, public UI_Container, public ThemeClient {
 public:
     using RedrawFlags = zebcore::utility::Flags<unsigned int>;
+    using StateFlags = zebcore::utility::Flags<unsigned int>;
+    // The pointer passes through the node itself to what lies beneath; its children are
+    // still hit.
+    static constexpr unsigned int kStateFlag_PassesMouse = 16;
 
     // What UI_Invalidate and UI_UpdateNow were asked since the last clear. Drawing
     // consumes it; until then tests read it.
@@ -143,6 +147,9 @@ public:
     void UI_SetDrawCachePolicy(DrawCachePolicy policy) { mDrawCachePolicy = policy; }
     const RedrawRecord& GetRedrawRecord() const { return mRedraw; }
     void ClearRedrawRecord() { mRedraw = RedrawRecord(); }
+    StateFlags UI_GetStateFlags() const { return mStateFlags; }
+    // Sets (or with set false clears) the bits of flags.
+    void UI_SetStateFlags(StateFlags flags, bool set) { mStateFlags.Set(flags.GetValue(), set); }
 
     // Coordinates.
 
@@ -207,6 +214,7 @@ private:
     int mToolTipWidth = 0;
     DrawCachePolicy mDrawCachePolicy = kDrawCachePolicy_Default;
     RedrawRecord mRedraw;
+    StateFlags mStateFlags;
     std::unique_ptr<boost::any> mUserData;
 
     CustomDrawFunctionP mDrawFunction;

@@ -32,7 +32,8 @@ bool reachable(const UI_Node* node) {
     return node->UI_IsShown() && !node->UI_IsDisabled();
 }
 
-// The topmost reachable node of node's subtree under global, or null.
+// The topmost reachable node of node's subtree under global, or null. A node that passes
+// the mouse is never the target itself: the search goes on to what lies beneath it.
 UI_Node* hitIn(UI_Node* node, const PointT<float>& global) {
     if (!reachable(node)) return nullptr;
     const zebcore::geom::RectT<float> frame(node->UI_LocalToGlobalF(PointT<float>(0, 0)),
@@ -40,7 +41,7 @@ UI_Node* hitIn(UI_Node* node, const PointT<float>& global) {
     if (!frame.Contains(global)) return nullptr;
     for (unsigned long i = node->ChildSize(); i-- > 0;)
         if (UI_Node* hit = hitIn(node->ChildGet(i).get(), global)) return hit;
-    return node;
+    return node->UI_GetStateFlags().IsSet(UI_Node::kStateFlag_PassesMouse) ? nullptr : node;
 }
 
 // Nodes of the tree under node that the tab key visits, depth first.

@@ -7,6 +7,8 @@
 #include <lua.hpp>
 
 #include "zeblua/ui/src/ControlNodeCast.h"
+#include "zeblua/ui/src/LuaFunctionEntry.h"
+#include "zeblua/utility/src/MainThread.h"
 #include "zeblua/utility/src/RunNative.h"
 
 namespace zeblua {
@@ -67,22 +69,18 @@ template <class T, class Query> int AnswerOfControl(lua_State* L, const char* na
     });
 }
 
-// -- ok = control:NotifyWhenChanged(fn) and its kind: add(L, control, reference) with a
-// registry reference to the value on top of the stack (so exactly two arguments are
-// expected). false for a released wrapper, or when add refuses (the reference is then
-// released); a function argument that isn't one is Lua's type error, a control of another
-// class the conversion error, both raised before the reference is taken.
-template <class T>
-int AddNotifyFunction(lua_State* L, const char* name, bool (*add)(lua_State*, T*, int)) {
+// Hands add(L, control, reference) a registry reference to the function at argument 2, the
+// value on top of the stack (so exactly two arguments are expected). false for a released
+// wrapper, or when add refuses (the reference is then released); a function argument that
+// isn't one is Lua's type error, a control of another class the conversion error, both
+// raised before the reference is taken. add runs under RunNative with the control held.
+template <class T, class Add> bool AddFunctionReference(lua_State* L, const char* name, Add add) {
     bool live = false;
     if (GetControlUserData(L, 1)) {
         luaL_checktype(L, 2, LUA_TFUNCTION);
         live = CastControlNode<T>(L, 1) != nullptr;
     }
-    if (!live) {
-        lua_pushboolean(L, 0);
-        return 1;
-    }
+    if (!live) return false;
     const int reference = luaL_ref(L, LUA_REGISTRYINDEX);
     T* control = CastControlNode<T>(L, 1);  // taking the reference may collect, and so run script
     const bool added = control && utility::RunNative(L, name, [&] {
@@ -90,7 +88,27 @@ int AddNotifyFunction(lua_State* L, const char* name, bool (*add)(lua_State*, T*
                            return add(L, control, reference);
                        });
     if (!added) luaL_unref(L, LUA_REGISTRYINDEX, reference); /* nobody holds it */
-    lua_pushboolean(L, added);
+    return added;
+}
+
+// -- control:SetXFunction(fn) and its kind: install(control, entry) with the function at
+// argument 2 (any further argument is dropped) as an entry on the state's main thread.
+// False, the reference released, when the main thread isn't known.
+template <class T, class Install>
+bool AddCallbackFunction(lua_State* L, const char* name, Install install) {
+    lua_settop(L, 2); /* the function is the reference's value */
+    return AddFunctionReference<T>(L, name, [&](lua_State* state, T* control, int reference) {
+        lua_State* main = utility::GetMainThread(state);
+        if (!main) return false;
+        install(*control, LuaFunctionEntry{main, reference});
+        return true;
+    });
+}
+
+// -- ok = control:NotifyWhenChanged(fn) and its kind, through AddFunctionReference.
+template <class T>
+int AddNotifyFunction(lua_State* L, const char* name, bool (*add)(lua_State*, T*, int)) {
+    lua_pushboolean(L, AddFunctionReference<T>(L, name, add));
     return 1;
 }
 

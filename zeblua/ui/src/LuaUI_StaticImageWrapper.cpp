@@ -15,12 +15,9 @@ using zebui::controls::UI_StaticImage;
 
 // -- image:SetImageName(name): 8-bit, kept as given.
 int controlSetImageName(lua_State* L) {
-    if (!GetControlUserData(L, 1)) return 0;
-    size_t length = 0;
-    const char* bytes = luaL_checklstring(L, 2, &length);  // the stack holds the bytes
-    return CallOnControl<UI_StaticImage>(L, "SetImageName", [&](UI_StaticImage& image) {
-        image.SetImageName(zebcore::UTF8String(bytes, length));
-    });
+    return SetBytesOfControl<UI_StaticImage>(
+        L, "SetImageName",
+        [](UI_StaticImage& image, const zebcore::UTF8String& name) { image.SetImageName(name); });
 }
 
 // -- alpha = image:GetAlpha()

@@ -63,6 +63,15 @@ template <class T, class Set> int SetTextOfControl(lua_State* L, const char* nam
     });
 }
 
+// -- control:Name(text): set(control, text), argument 2 as the 8-bit string it is.
+template <class T, class Set> int SetBytesOfControl(lua_State* L, const char* name, Set set) {
+    if (!GetControlUserData(L, 1)) return 0;
+    size_t length = 0;
+    const char* bytes = luaL_checklstring(L, 2, &length);  // the stack holds the bytes
+    return CallOnControl<T>(L, name,
+                            [&](T& control) { set(control, zebcore::UTF8String(bytes, length)); });
+}
+
 // -- control:Name(number): set(control, number).
 template <class T, class Set> int SetNumberOfControl(lua_State* L, const char* name, Set set) {
     if (!GetControlUserData(L, 1)) return 0;

@@ -33,7 +33,9 @@ struct BoundCall {
     const zebui::ui::KeyboardEvent* keyboardEvent;
     const zebcore::geom::PointT<float>* point;
     const zebcore::geom::RectT<float>* rect;
+    const zebcore::geom::RectT<int>* wholeRect;
     lua_Number number;
+    lua_Number secondNumber;
     zebui::inkwell::Inkwell* inkwell;
     zebui::controls::UI_ControlChangedMessage* changed;
     zebui::controls::UI_InteractiveControlChangedMessage* interactive;
@@ -81,6 +83,18 @@ int protectedDraw(lua_State* L) {
     return 0;
 }
 
+// The proposal in number; a number answered replaces it, anything else leaves it.
+int protectedValidation(lua_State* L) {
+    BoundCall* call = static_cast<BoundCall*>(lua_touserdata(L, 1));
+    lua_settop(L, 0);
+    lua_rawgeti(L, LUA_REGISTRYINDEX, call->reference);
+    lua_pushnumber(L, call->number);
+    if (!utility::CallChecked(L, 1, 1, CallCleanup::kPopTop)) return 0;
+    if (lua_type(L, -1) == LUA_TNUMBER) call->number = lua_tonumber(L, -1);
+    lua_settop(L, -2); /* the answer */
+    return 0;
+}
+
 bool run(const LuaFunctionEntry& entry, BoundCall& call, lua_CFunction body) {
     lua_State* L = entry.state;
     if (lua_cpcall(L, body, &call) != 0) {
@@ -93,8 +107,9 @@ bool run(const LuaFunctionEntry& entry, BoundCall& call, lua_CFunction body) {
 
 BoundCall newCall(const LuaFunctionEntry& entry, BoundAnswer answer,
                   int (*pushArguments)(lua_State*, const BoundCall&)) {
-    return BoundCall{entry.reference, answer, pushArguments, nullptr, nullptr, nullptr, nullptr,
-                     nullptr,         0,      nullptr,       nullptr, nullptr, false};
+    return BoundCall{entry.reference, answer,  pushArguments, nullptr, nullptr, nullptr,
+                     nullptr,         nullptr, nullptr,       0,       0,       nullptr,
+                     nullptr,         nullptr, false};
 }
 
 int pushTarget(lua_State* L, const BoundCall& call) {
@@ -124,6 +139,13 @@ int pushRect(lua_State* L, const BoundCall& call) {
 int pushNumber(lua_State* L, const BoundCall& call) {
     lua_pushnumber(L, call.number);
     return 1;
+}
+
+// The action and the tab, then the tab's rect when there is one.
+int pushTabAction(lua_State* L, const BoundCall& call) {
+    lua_pushnumber(L, call.number);
+    lua_pushnumber(L, call.secondNumber);
+    return 2 + (call.wholeRect ? inkwell::PushRect32ToLua(L, *call.wholeRect) : 0);
 }
 
 int pushControlMessage(lua_State* L, const BoundCall& call) {
@@ -205,6 +227,29 @@ void CallBoundInteractiveChange(const LuaFunctionEntry& entry,
     BoundCall call = newCall(entry, BoundAnswer::kNotify, pushInteractiveMessage);
     call.target = &control;
     call.interactive = message;
+    run(entry, call, protectedCall);
+}
+
+float CallBoundSplitValidation(const LuaFunctionEntry& entry, float proposed) {
+    BoundCall call = newCall(entry, BoundAnswer::kChecked, nullptr);
+    call.number = proposed;
+    run(entry, call, protectedValidation);
+    return static_cast<float>(call.number);
+}
+
+void CallBoundNodeNotify(const LuaFunctionEntry& entry,
+                         const boost::intrusive_ptr<zebui::ui::UI_Node>& node) {
+    BoundCall call = newCall(entry, BoundAnswer::kNotify, pushTarget);
+    call.target = &node;
+    run(entry, call, protectedCall);
+}
+
+void CallBoundTabItemAction(const LuaFunctionEntry& entry, int action, int tab,
+                            const zebcore::geom::RectT<int>* rect) {
+    BoundCall call = newCall(entry, BoundAnswer::kNotify, pushTabAction);
+    call.number = action;
+    call.secondNumber = tab;
+    call.wholeRect = rect;
     run(entry, call, protectedCall);
 }
 

@@ -78,5 +78,18 @@ void CallBoundInteractiveChange(const LuaFunctionEntry& entry,
                                 zebui::controls::UI_InteractiveControlChangedMessage* message,
                                 const boost::intrusive_ptr<zebui::ui::UI_Node>& control);
 
+// A split validation function: the proposed split; answers the number the function
+// returned, or the proposal when it returned anything else or failed. Checked.
+float CallBoundSplitValidation(const LuaFunctionEntry& entry, float proposed);
+
+// A new wrapper of node, held by the caller (nothing for a node nobody holds). Notify.
+void CallBoundNodeNotify(const LuaFunctionEntry& entry,
+                         const boost::intrusive_ptr<zebui::ui::UI_Node>& node);
+
+// A tab well's action: the action and the tab as numbers, then rect as an integer rect
+// table when it is not null. Notify.
+void CallBoundTabItemAction(const LuaFunctionEntry& entry, int action, int tab,
+                            const zebcore::geom::RectT<int>* rect);
+
 }  // namespace ui
 }  // namespace zeblua
