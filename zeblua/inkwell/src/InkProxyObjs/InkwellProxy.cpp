@@ -55,10 +55,11 @@ bool sDepthOpen[kFlaggedDepths + 1];
 InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0, 0};
 
 // Registry keys, by address.
-// The scope table, one per state: the two kinds' registered and ended metatables, then two
-// anchor slots per guard depth, its Inkwell proxy and the surface record it made. Integer
-// keys in the table's array part, so a scope hashes nothing but the table's own key, and a
-// slot is only ever set again, never added, once the deepest scope has been open.
+// The scope table, one per state: the two kinds' registered and scoped metatables, its own
+// registry reference, then two anchor slots per guard depth, its Inkwell proxy and the
+// surface record it made. Integer keys in the table's array part, so a scope hashes
+// nothing, and a slot is only ever set again, never added, once the deepest scope has been
+// open.
 // The anchor table holds the records listed for an Inkwell made outside a guard. One weak
 // table per slot, so that keeping a value costs no table per proxy either. The live
 // records are weak-valued: an entry goes when the collector takes its record, whether or
@@ -71,20 +72,29 @@ char sKeptValuesKeys[kKeptBoundSurface + 1];  // per KeptSlot, weak keys: [proxy
 
 enum ScopeTableSlot {
     kInkwellMetatable = 1,
-    kEndedInkwellMetatable,
+    kScopedInkwellMetatable,
     kSurfaceMetatable,
-    kEndedSurfaceMetatable,
+    kScopedSurfaceMetatable,
+    kOwnReference,
     kFirstAnchorSlot,
 };
+
+// The main thread that last read its scope table, and that table's integer registry
+// reference: a draw path reads the table at every scope and every proxy check, and
+// lua_rawgeti on an integer key is the cheapest read of the registry. Only a main thread
+// is remembered, because it lives until lua_close, whose sentinel forgets it; so while
+// the pointer is set no other state can have a thread at its address.
+lua_State* sRememberedMainThread = nullptr;
+int sRememberedReference = LUA_NOREF;
 
 // The anchor of depth's Inkwell proxy; the next slot is its surface record's.
 int anchorSlot(int depth) {
     return kFirstAnchorSlot + 2 * (depth - 1);
 }
 
-int metatableSlot(DrawingKind kind, bool ended) {
-    if (kind == DrawingKind::kInkwell) return ended ? kEndedInkwellMetatable : kInkwellMetatable;
-    return ended ? kEndedSurfaceMetatable : kSurfaceMetatable;
+int metatableSlot(DrawingKind kind, bool scoped) {
+    if (kind == DrawingKind::kInkwell) return scoped ? kScopedInkwellMetatable : kInkwellMetatable;
+    return scoped ? kScopedSurfaceMetatable : kSurfaceMetatable;
 }
 
 // The record leaves the list.
@@ -100,6 +110,7 @@ void unlist(const InkwellProxy* record) {
 // a guard a Lua error skipped) must not leave the state's records listed once their memory
 // goes. Metatables in the scope table are no records, and unlisting them finds nothing.
 int unlistAnchoredRecords(lua_State* L) {
+    if (L == sRememberedMainThread) sRememberedMainThread = nullptr;
     for (const void* key : {&sScopeAnchorsKey, &sScopeTableKey}) {
         PushRegistryTable(L, key);
         if (lua_istable(L, -1)) {
@@ -115,9 +126,9 @@ int unlistAnchoredRecords(lua_State* L) {
     return 0;
 }
 
-// The ended form of the registered metatable on top of the stack, pushed above it: the same
+// The scoped form of the registered metatable on top of the stack, pushed above it: the same
 // __index and __tostring, no __gc, and "__metatable" answering the registered table.
-void pushEndedMetatable(lua_State* L) {
+void pushScopedMetatable(lua_State* L) {
     lua_createtable(L, 0, 3);
     for (const char* field : {"__index", "__tostring"}) {
         lua_getfield(L, -2, field);
@@ -128,18 +139,36 @@ void pushEndedMetatable(lua_State* L) {
 }
 
 // Puts the registered metatable of metatableName, opening its module first if need be, and
-// its ended form in the scope table on top of the stack.
+// its scoped form in the scope table on top of the stack.
 void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
                     utility::ModuleOpener opener) {
     utility::PushProxyMetatable(L, metatableName, opener);
-    pushEndedMetatable(L);                          /* T, registered, ended */
+    pushScopedMetatable(L);                         /* T, registered, scoped */
     lua_rawseti(L, -3, metatableSlot(kind, true));  /* T, registered */
     lua_rawseti(L, -2, metatableSlot(kind, false)); /* T */
 }
 
+// Pushes the scope table of L's state, or nil before the first scope; remembers it when L
+// is a main thread. Raises no Lua error.
+void pushExistingScopeTable(lua_State* L) {
+    if (L == sRememberedMainThread) {
+        lua_rawgeti(L, LUA_REGISTRYINDEX, sRememberedReference);
+        return;
+    }
+    PushRegistryTable(L, &sScopeTableKey);
+    if (!lua_istable(L, -1)) return;
+    const bool mainThread = lua_pushthread(L) != 0;
+    lua_rawgeti(L, -2, kOwnReference);
+    if (mainThread) {
+        sRememberedMainThread = L;
+        sRememberedReference = static_cast<int>(lua_tointeger(L, -1));
+    }
+    lua_pop(L, 2);
+}
+
 // Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
 int pushScopeTable(lua_State* L) {
-    PushRegistryTable(L, &sScopeTableKey);
+    pushExistingScopeTable(L);
     if (!lua_istable(L, -1)) {
         lua_pop(L, 1);
         lua_createtable(L, kFirstAnchorSlot + 8, 0);
@@ -150,6 +179,9 @@ int pushScopeTable(lua_State* L) {
         // Named in the registry only once whole, with the sentinel of its anchors.
         PushOrMakeRegistryTable(L, &sScopeAnchorsKey, nullptr, unlistAnchoredRecords);
         lua_pop(L, 1);
+        lua_pushvalue(L, -1);
+        lua_pushinteger(L, luaL_ref(L, LUA_REGISTRYINDEX));
+        lua_rawseti(L, -2, kOwnReference);
         lua_pushlightuserdata(L, &sScopeTableKey);
         lua_pushvalue(L, -2);
         lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = T */
@@ -157,28 +189,15 @@ int pushScopeTable(lua_State* L) {
     return lua_gettop(L);
 }
 
-// A new userdata for a record, with the kind's registered metatable from the scope table at
-// tableIndex.
+// A new userdata for a record, with the kind's scoped metatable from the scope table at
+// tableIndex: the record is anchored in a slot for as long as its scope is open, so a __gc
+// could never find it live, and ending it is then a write to its fields alone.
 InkwellProxy* newScopedRecord(lua_State* L, int tableIndex, DrawingKind kind,
                               const InkwellProxy& fields) {
     auto* record = new (lua_newuserdata(L, sizeof(InkwellProxy))) InkwellProxy(fields);
-    lua_rawgeti(L, tableIndex, metatableSlot(kind, false));
+    lua_rawgeti(L, tableIndex, metatableSlot(kind, true));
     lua_setmetatable(L, -2);
     return record;
-}
-
-// Ends the record in slot of the scope table at tableIndex, if any, and gives it its kind's
-// ended metatable; raises no Lua error. A record is ended here even if it never made it into
-// the list. It stays in its slot until the next guard of that depth puts its own there: one
-// ended object a depth, and a closing scope writes no slot.
-void endAnchored(lua_State* L, int tableIndex, int slot, DrawingKind kind) {
-    lua_rawgeti(L, tableIndex, slot);
-    if (auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, -1))) {
-        InvalidateProxy(record);
-        lua_rawgeti(L, tableIndex, metatableSlot(kind, true));
-        lua_setmetatable(L, -2);
-    }
-    lua_pop(L, 1);
 }
 
 // The slots of depth may still hold the records of a guard that a Lua error skipped: they
@@ -188,12 +207,11 @@ void endSkippedScope(lua_State* L, int tableIndex, int depth) {
     if (depth <= kFlaggedDepths && !sDepthOpen[depth]) return;
     for (const int slot : {anchorSlot(depth), anchorSlot(depth) + 1}) {
         lua_rawgeti(L, tableIndex, slot);
-        const void* record = lua_touserdata(L, -1);
+        auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, -1));
         lua_pop(L, 1);
         if (!record) continue;
-        unlist(static_cast<const InkwellProxy*>(record));
-        endAnchored(L, tableIndex, slot,
-                    slot == anchorSlot(depth) ? DrawingKind::kInkwell : DrawingKind::kSurface);
+        unlist(record);
+        InvalidateProxy(record);
     }
 }
 
@@ -222,7 +240,7 @@ void releaseAnchor(lua_State* L, InkwellProxy* record) {
 void markLive(lua_State* L, const InkwellProxy& parent) {
     lua_checkstack(L, 4);
     if (parent.scopeDepth > 0) {
-        PushRegistryTable(L, &sScopeTableKey);
+        pushExistingScopeTable(L);
         lua_rawgeti(L, -1, anchorSlot(parent.scopeDepth) + 1);
     } else {
         PushRegistryTable(L, &sScopeAnchorsKey);
@@ -280,16 +298,14 @@ AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& ar
 
 // The surface records of enclosing scopes on the same Inkwell end here too, but stay in
 // their slots until their own scope closes, since their Inkwell proxies still name them.
+// The guard's own records stay in the slots of its depth, ended, until the next guard of
+// that depth puts its own there: a closing scope writes no slot and calls no Lua function.
 AcquireInkwellProxy::~AcquireInkwellProxy() {
     popScriptStates(*mProxy);
     EndInkwellScope(mL, mProxy->inkwell);
-    lua_checkstack(mL, 3);
-    PushRegistryTable(mL, &sScopeTableKey);
-    const int table = lua_gettop(mL);
     // Only GetSurface fills the surface slot, and it names what it put there.
-    if (mProxy->surfaceProxy) endAnchored(mL, table, anchorSlot(mDepth) + 1, DrawingKind::kSurface);
-    endAnchored(mL, table, anchorSlot(mDepth), DrawingKind::kInkwell);
-    lua_pop(mL, 1);
+    if (mProxy->surfaceProxy) InvalidateProxy(mProxy->surfaceProxy);
+    InvalidateProxy(mProxy);
     sScopeDepth = mDepth - 1;
     if (mDepth <= kFlaggedDepths) sDepthOpen[mDepth] = false;
 }
@@ -299,11 +315,11 @@ void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind) {
         kind == DrawingKind::kInkwell ? kZebLuaInkwellMetaTableName : kZebLuaSurfaceMetaTableName;
     void* block = lua_touserdata(L, index);
     if (block && lua_getmetatable(L, index)) { /* mt */
-        PushRegistryTable(L, &sScopeTableKey);
+        pushExistingScopeTable(L);
         bool matches = false;
         if (lua_istable(L, -1)) {
-            for (const bool ended : {false, true}) {
-                lua_rawgeti(L, -1, metatableSlot(kind, ended));
+            for (const bool scoped : {true, false}) {
+                lua_rawgeti(L, -1, metatableSlot(kind, scoped));
                 matches = matches || lua_rawequal(L, -1, -3);
                 lua_pop(L, 1);
             }

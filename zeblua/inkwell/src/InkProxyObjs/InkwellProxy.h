@@ -47,8 +47,9 @@ struct InkwellProxy {
 // that proxy and every surface proxy taken on the same Inkwell, also those of an enclosing
 // scope. The proxy and the surface record it makes are held in the anchor slots of the
 // scope's depth, so a callback that drops them cannot free what the destructor writes to;
-// ended, each gets its kind's ended metatable, which has no __gc, so collecting it costs
-// nothing. Raises only Lua's memory error, and only while it is being made.
+// each carries its kind's scoped metatable, which has no __gc, so collecting it costs
+// nothing and ending it calls no Lua function. Raises only Lua's memory error, and only
+// while it is being made.
 class AcquireInkwellProxy {
 public:
     // Sets argCount to 1, the one value pushed.
@@ -66,7 +67,7 @@ private:
 enum class DrawingKind { kInkwell, kSurface };
 
 // The block of the Inkwell or surface proxy at index: its metatable is the kind's registered
-// one or, once its scope has ended, the kind's ended one, which answers the same methods and
+// one or, for a guard's records, the kind's scoped one, which answers the same methods and
 // whose "__metatable" is the registered one, so getmetatable shows no difference. Anything
 // else raises luaL_checkudata's error with the registered name.
 void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind);
