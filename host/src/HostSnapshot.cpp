@@ -12,13 +12,17 @@
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/LuaResultString.h"
 #include "zeblua/utility/src/RunNative.h"
+#include "zebui/controls/UI_Button.h"
 #include "zebui/controls/UI_Checkbox.h"
 #include "zebui/controls/UI_ControlView.h"
+#include "zebui/controls/UI_DisclosureTriangleButton.h"
 #include "zebui/controls/UI_HotTextNumber.h"
 #include "zebui/controls/UI_InteractiveControlView.h"
 #include "zebui/controls/UI_Knob.h"
 #include "zebui/controls/UI_PictureButton.h"
 #include "zebui/controls/UI_Popup.h"
+#include "zebui/controls/UI_RadioButton.h"
+#include "zebui/controls/UI_RadioGroup.h"
 #include "zebui/controls/UI_ScrollBar.h"
 #include "zebui/controls/UI_ScrollView.h"
 #include "zebui/controls/UI_SearchBox.h"
@@ -29,6 +33,7 @@
 #include "zebui/controls/UI_StaticText.h"
 #include "zebui/controls/UI_TabItem.h"
 #include "zebui/controls/UI_TabWell.h"
+#include "zebui/controls/UI_TextButton.h"
 #include "zebui/controls/UI_TextControlBase.h"
 #include "zebui/controls/UI_TextEdit.h"
 #include "zebui/ui/OS_ViewContainer.h"
@@ -60,11 +65,6 @@ void fillControlViewState(lua_State* L, const zui::UI_Node& node) {
 void fillInteractiveControlViewState(lua_State* L, const zui::UI_Node& node) {
     const auto* control = dynamic_cast<const controls::UI_InteractiveControlView*>(&node);
     if (control) setBoolean(L, "inInteractiveChange", control->IsInInteractiveChange());
-}
-
-void fillCheckboxState(lua_State* L, const zui::UI_Node& node) {
-    const auto* box = dynamic_cast<const controls::UI_Checkbox*>(&node);
-    if (box) setBoolean(L, "checked", box->IsChecked());
 }
 
 // A plain rect table, made here so that no constructor of the script layer runs.
@@ -107,6 +107,37 @@ void setNumber(lua_State* L, const char* name, lua_Number value) {
 void setString(lua_State* L, const char* name, const zebcore::UTF8String& value) {
     lua_pushlstring(L, value.data(), value.size());
     lua_setfield(L, -2, name);
+}
+
+// Buttons: value (0 off, 1 on, 2 mixed), pressed, springLoaded, notificationOnMouseDown,
+// changeFocusOnClick, and whether the present state draws its container and border; text
+// buttons their textIndent, disclosure triangles their twirlDuration. Check boxes: checked.
+// Radio buttons: value; radio groups: selected, the id of the button that is on (absent for
+// none).
+void fillButtonState(lua_State* L, const zui::UI_Node& node) {
+    if (const auto* button = dynamic_cast<const controls::UI_Button*>(&node)) {
+        setInteger(L, "value", button->GetValue());
+        setBoolean(L, "pressed", button->IsPressed());
+        setBoolean(L, "springLoaded", button->IsSpringLoaded());
+        setBoolean(L, "notificationOnMouseDown", button->GetNotificationOnMouseDown());
+        setBoolean(L, "changeFocusOnClick", button->GetChangeFocusOnClick());
+        setBoolean(L, "drawsContainer", button->DrawsContainer());
+        setBoolean(L, "drawsBorder", button->DrawsBorder());
+    }
+    if (const auto* textButton = dynamic_cast<const controls::UI_TextButton*>(&node))
+        setNumber(L, "textIndent", textButton->GetTextIndent());
+    if (const auto* triangle = dynamic_cast<const controls::UI_DisclosureTriangleButton*>(&node))
+        setNumber(L, "twirlDuration", triangle->GetTwirlDuration());
+    if (const auto* box = dynamic_cast<const controls::UI_Checkbox*>(&node))
+        setBoolean(L, "checked", box->IsChecked());
+    if (const auto* radio = dynamic_cast<const controls::UI_RadioButton*>(&node))
+        setInteger(L, "value", radio->GetValue());
+    if (const auto* group = dynamic_cast<const controls::UI_RadioGroup*>(&node)) {
+        // The group's members are gathered in a vector: no exception may cross Lua's frame.
+        const zui::UI_Node* selected = zeblua::utility::RunNative(
+            L, "zebhost.snapshot", [group] { return group->GetSelectedRadioButton().get(); });
+        if (selected) setString(L, "selected", selected->UI_GetNodeID());
+    }
 }
 
 // imageName: the name the picture supply derives its images from; imageSupply: whether
@@ -310,7 +341,7 @@ void fillValueTextState(lua_State* L, const zui::UI_Node& node) {
 
 const StateFiller kStateFillers[] = {
     fillControlViewState,   fillInteractiveControlViewState,
-    fillCheckboxState,      fillPictureState,
+    fillButtonState,        fillPictureState,
     fillSearchBoxState,     fillTextEditState,
     fillScrollViewState,    fillSplitterState,
     fillSectionState,       fillPopupState,

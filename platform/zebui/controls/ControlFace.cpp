@@ -1,6 +1,8 @@
 // Control faces: paths, pens and text made with the inkwell's own supplier.
 #include "zebui/controls/ControlFace.h"
 
+#include <algorithm>
+
 #include "zebui/controls/UI_ControlView.h"
 #include "zebui/inkwell/BrushInterface.h"
 #include "zebui/inkwell/FontInterface.h"
@@ -28,6 +30,9 @@ namespace {
 using zebcore::geom::PointT;
 using zebcore::geom::RectT;
 
+constexpr float kLargestMark = 14.0f;
+constexpr float kMarkGap = 4.0f;
+
 template <class T> using Held = boost::intrusive_ptr<T>;
 
 // Both halves of the inkwell, or false when there is nothing to draw with.
@@ -44,11 +49,38 @@ void fillAndEdge(inkwell::Inkwell* inkwell, const inkwell::PathInterface& path,
     inkwell->GetSurface()->StrokePath(*pen, path);
 }
 
+// The rect as a closed subpath, its corners quarter arcs of radius.
+void addRoundRect(inkwell::PathInterface& path, const RectT<float>& rect, float radius) {
+    if (!(radius > 0)) {
+        path.AddRect(rect);
+        return;
+    }
+    const float right = rect.left + rect.width;
+    const float bottom = rect.top + rect.height;
+    path.MoveTo(PointT<float>(rect.left + radius, rect.top));
+    path.AddArc(PointT<float>(right - radius, rect.top + radius), radius, 270, 360);
+    path.AddArc(PointT<float>(right - radius, bottom - radius), radius, 0, 90);
+    path.AddArc(PointT<float>(rect.left + radius, bottom - radius), radius, 90, 180);
+    path.AddArc(PointT<float>(rect.left + radius, rect.top + radius), radius, 180, 270);
+    path.ClosePath();
+}
+
 }  // namespace
 
 RectT<float> Bounds(const ui::UI_Node& node) {
     const RectT<float> frame = node.UI_GetLocalRectF(false);
     return RectT<float>(0, 0, frame.width, frame.height);
+}
+
+RectT<float> MarkSquare(const RectT<float>& bounds) {
+    const float side = std::min(bounds.height, kLargestMark);
+    return RectT<float>(bounds.left, bounds.top + (bounds.height - side) / 2, side, side);
+}
+
+RectT<float> BesideMark(const RectT<float>& bounds) {
+    const float start = MarkSquare(bounds).width + kMarkGap;
+    return RectT<float>(bounds.left + start, bounds.top, std::max(bounds.width - start, 0.0f),
+                        bounds.height);
 }
 
 void FrameRect(inkwell::Inkwell* inkwell, const RectT<float>& rect, const inkwell::ColorRGBA& fill,
@@ -67,6 +99,31 @@ void FrameCircle(inkwell::Inkwell* inkwell, const PointT<float>& centre, float r
     path->AddArc(centre, radius - 0.5f, 0, 360);
     path->ClosePath();
     fillAndEdge(inkwell, *path, fill, edge);
+}
+
+void FillRoundRect(inkwell::Inkwell* inkwell, const RectT<float>& rect, float radius,
+                   const inkwell::ColorRGBA& fill) {
+    if (!drawable(inkwell) || rect.width <= 0 || rect.height <= 0) return;
+    const inkwell::SupplierInterface& supplier = *inkwell->GetSupplier();
+    const Held<inkwell::PathInterface> path(supplier.MakePath());
+    addRoundRect(*path, rect, radius);
+    const Held<inkwell::BrushInterface> brush(supplier.MakeBrush(fill));
+    inkwell->GetSurface()->FillPath(*brush, *path, true);
+}
+
+void EdgeRoundRect(inkwell::Inkwell* inkwell, const RectT<float>& rect, float radius, float width,
+                   const inkwell::ColorRGBA& edge) {
+    if (!drawable(inkwell) || !(width > 0) || rect.width < width || rect.height < width) return;
+    const inkwell::SupplierInterface& supplier = *inkwell->GetSupplier();
+    const Held<inkwell::PathInterface> path(supplier.MakePath());
+    // The line's middle half its width inside, so that it lies within the rect.
+    const float half = width / 2;
+    addRoundRect(
+        *path,
+        RectT<float>(rect.left + half, rect.top + half, rect.width - width, rect.height - width),
+        std::max(radius - half, 0.0f));
+    const Held<inkwell::PenInterface> pen(supplier.MakePen(edge, width));
+    inkwell->GetSurface()->StrokePath(*pen, *path);
 }
 
 void FillPolygon(inkwell::Inkwell* inkwell, const PointT<float>* points, int count,

@@ -33,12 +33,24 @@ extern const inkwell::ColorRGBA kText;
 // The node's own coordinates: its size at the origin.
 zebcore::geom::RectT<float> Bounds(const ui::UI_Node& node);
 
+// Where a check box or a radio button draws its mark: a square at the left, as tall as
+// bounds up to 14 units and centred in their height; and where its label goes, the rest of
+// bounds right of the mark and a gap.
+zebcore::geom::RectT<float> MarkSquare(const zebcore::geom::RectT<float>& bounds);
+zebcore::geom::RectT<float> BesideMark(const zebcore::geom::RectT<float>& bounds);
+
 // Each draws with the inkwell's supplier onto its surface, and nothing without either.
 // Filled, then edged by a one-unit line just inside.
 void FrameRect(inkwell::Inkwell* inkwell, const zebcore::geom::RectT<float>& rect,
                const inkwell::ColorRGBA& fill, const inkwell::ColorRGBA& edge);
 void FrameCircle(inkwell::Inkwell* inkwell, const zebcore::geom::PointT<float>& centre,
                  float radius, const inkwell::ColorRGBA& fill, const inkwell::ColorRGBA& edge);
+// A rect whose corners are rounded to radius (0: square corners), filled, or edged by a
+// line of width just inside it. Callers keep radius and width within the rect.
+void FillRoundRect(inkwell::Inkwell* inkwell, const zebcore::geom::RectT<float>& rect, float radius,
+                   const inkwell::ColorRGBA& fill);
+void EdgeRoundRect(inkwell::Inkwell* inkwell, const zebcore::geom::RectT<float>& rect, float radius,
+                   float width, const inkwell::ColorRGBA& edge);
 // A filled polygon of count points.
 void FillPolygon(inkwell::Inkwell* inkwell, const zebcore::geom::PointT<float>* points, int count,
                  const inkwell::ColorRGBA& colour);

@@ -1,34 +1,41 @@
 // A check box.
 #include "zebui/controls/UI_Checkbox.h"
 
-#include <algorithm>
-
 #include "zebui/controls/ControlFace.h"
 
 namespace zebui {
 namespace controls {
 
-UI_Checkbox::UI_Checkbox() = default;
+UI_Checkbox::UI_Checkbox() : UI_TextControlBase(static_cast<ui::UI_Node&>(*this)) {}
 
 UI_Checkbox::~UI_Checkbox() = default;
 
 void UI_Checkbox::SetChecked(bool checked) {
+    if (checked != mChecked || IsValueUnknown()) UI_Invalidate(nullptr, 0);
     ChangeValue(mChecked, checked);
+}
+
+zebcore::geom::RectT<float> UI_Checkbox::GetLabelTextRect() const {
+    return face::BesideMark(face::Bounds(*this));
 }
 
 void UI_Checkbox::UI_TrackPointer(InteractiveChangePhase phase,
                                   const zebcore::geom::PointT<float>& where) {
-    const zebcore::geom::RectT<float> frame = UI_GetLocalRectF(false);
-    const bool inside =
-        where.x >= 0 && where.y >= 0 && where.x < frame.width && where.y < frame.height;
-    if (phase == kInteractiveChange_Finish && inside) SetChecked(!mChecked);
+    if (phase == kInteractiveChange_Finish && ContainsLocalPoint(where))
+        SetChecked(IsValueUnknown() || !mChecked);
 }
 
 void UI_Checkbox::UI_DrawFace(inkwell::Inkwell* inkwell) const {
-    const zebcore::geom::RectT<float> bounds = face::Bounds(*this);
-    const float side = std::min(bounds.height, 14.0f);
-    face::FrameRect(inkwell, zebcore::geom::RectT<float>(0, (bounds.height - side) / 2, side, side),
-                    face::kFieldFill, face::kFaceEdge);
+    const zebcore::geom::RectT<float> box = face::MarkSquare(face::Bounds(*this));
+    face::FrameRect(inkwell, box, face::kFieldFill, face::kFaceEdge);
+    const float side = box.width;
+    if (IsValueUnknown())
+        face::FillRoundRect(inkwell, {box.left + 3, box.top + side / 2 - 1, side - 6, 2}, 0,
+                            face::kAccent);
+    else if (mChecked)
+        face::FillRoundRect(inkwell, {box.left + 3, box.top + 3, side - 6, side - 6}, 0,
+                            face::kAccent);
+    DrawLabelText(inkwell, GetLabelText(), GetLabelTextRect());
 }
 
 }  // namespace controls

@@ -61,6 +61,12 @@ bool UI_InteractiveControlView::UI_DoMouseEvent(ui::UI_Node* target, const ui::M
 void UI_InteractiveControlView::UI_TrackPointer(InteractiveChangePhase,
                                                 const zebcore::geom::PointT<float>&) {}
 
+bool UI_InteractiveControlView::ContainsLocalPoint(
+    const zebcore::geom::PointT<float>& where) const {
+    const zebcore::geom::RectT<float> frame = UI_GetLocalRectF(false);
+    return where.x >= 0 && where.y >= 0 && where.x < frame.width && where.y < frame.height;
+}
+
 void UI_InteractiveControlView::sendPhase(InteractiveChangePhase phase,
                                           ui::ModifierFlags modifiers) {
     UI_InteractiveControlChangedMessage message(this, phase, modifiers);

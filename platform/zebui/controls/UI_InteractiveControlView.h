@@ -44,6 +44,8 @@ protected:
     // reported: where a class moves its value. The plain control has none to move.
     virtual void UI_TrackPointer(InteractiveChangePhase phase,
                                  const zebcore::geom::PointT<float>& where);
+    // where, in the control's own coordinates, lies on the control.
+    bool ContainsLocalPoint(const zebcore::geom::PointT<float>& where) const;
 
 private:
     void sendPhase(InteractiveChangePhase phase, ui::ModifierFlags modifiers);

@@ -22,7 +22,7 @@ void UI_PictureButton::SetImageBaseName(const zebcore::UTF8String& name) {
 void UI_PictureButton::UI_DrawFace(inkwell::Inkwell* inkwell) const {
     const unsigned state = UI_IsMouseOver(false) ? kRolloverState : 0;
     face::DrawImage(inkwell, UI_PictureSupplyMessage::Ask(GetImageSupplyFunction(), this, state),
-                    face::Bounds(*this));
+                    GetContentRect());
 }
 
 }  // namespace controls

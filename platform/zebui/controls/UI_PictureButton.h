@@ -20,7 +20,9 @@ public:
     const zebcore::UTF8String& GetImageBaseName() const { return mImageBaseName; }
 
 protected:
-    // The supplied image over the whole button, in place of the plain button's face;
+    bool DrawsContainer() const override { return false; }
+    bool DrawsBorder() const override { return false; }
+    // The supplied image over the content rect, in place of the plain button's face;
     // state flag 2 while the pointer is over it.
     void UI_DrawFace(inkwell::Inkwell* inkwell) const override;
 
