@@ -70,4 +70,25 @@ local released = C.NewSectionView()
 released:Release()
 checkEqual(select("#", released:AddOpenedStateChangedCallback("not checked")), 0,
   "a released wrapper returns at once")
+
+-- A callback may take the section out of its tree and drop every wrapper of it while the
+-- click that toggled it is still running.
+local doomed = C.NewSectionView()
+doomed:UI_SetLocalRectF(rect(0, 0, 100, 100))
+local holder = zebhost.newNode("UI_SubView", "holder", rect(0, 0, 100, 100))
+holder:ChildPushBack(doomed)
+local dropped = false
+doomed:AddOpenedStateChangedCallback(function(me)
+  holder:ChildRemove(me)
+  me:Release()
+  doomed = nil
+  collectgarbage("collect")
+  dropped = true
+end)
+doomed = nil
+collectgarbage("collect")
+zebhost.click(holder, 50, 5)
+collectgarbage("collect")
+checkEqual(dropped, true, "the callback ran and dropped the section")
+checkEqual(holder:ChildSize(), 0, "out of the tree")
 print("containers_section: ok")

@@ -87,4 +87,24 @@ local ok, message = pcall(plain.SetTabItemActionFunction, plain, function() end)
 check(not ok and message:find("Invalid type conversion.", 1, true), "not on a plain well")
 ok, message = pcall(well.SetTabItemActionFunction, well, {})
 check(not ok and message:find("function expected", 1, true), "a function is needed")
+
+-- An action function may take the well out of its tree and drop every wrapper of it in
+-- the middle of the click's actions.
+local doomed = C.NewTabWell()
+doomed:UI_SetLocalRectF(rect(0, 0, 300, 100))
+root:ChildPushBack(doomed)
+doomed:AddTab(0, "a", false, false)
+local heard = 0
+doomed:SetTabItemActionFunction(function(action)
+  heard = heard + 1
+  if action == 0 then
+    root:ChildRemove(doomed)
+    doomed:Release()
+    doomed = nil
+    collectgarbage("collect")
+  end
+end)
+zebhost.click(root, 20, 10)
+collectgarbage("collect")
+checkEqual(heard, 2, "Click, then BecomeFrontmost on the well nobody holds any more")
 print("containers_tabs: ok")
