@@ -8,6 +8,7 @@
 
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
+#include "zeblua/ui/src/ImageProvider.h"
 #include "zeblua/ui/src/LuaControlWrapperFactory.h"
 #include "zebui/controls/UI_Button.h"
 #include "zebui/controls/UI_PictureTextButton.h"
@@ -142,6 +143,28 @@ TEST_F(ButtonFamilyTest, MixedValuesReadAsOff) {
     runLua("button:SetValue(); radio:SetValue()");
     EXPECT_EQ(button->GetValue(), zc::kButtonValue_On);
     EXPECT_EQ(radio->GetValue(), zc::kRadioValue_On);
+}
+
+// A picture text button is a text button with an image from the image provider in a
+// square at the leading edge, and the label after it.
+TEST_F(ButtonFamilyTest, PictureTextButtonDrawsItsImageBeforeItsLabel) {
+    const boost::intrusive_ptr<zc::UI_PictureTextButton> button(new zc::UI_PictureTextButton);
+    button->UI_SetLocalRectF(zebcore::geom::RectT<float>(0, 0, 80, 24));
+    button->SetImageBaseName("zeblua_badge");
+    uit::ImageProvider::InstallImageSupply(*button);
+    setWrapper("button", button);
+    runLua(R"(
+        local r = button:GetLabelTextRect()
+        label = table.concat({ r.left, r.top, r.width, r.height }, ",")
+        local picture = zebhost.draw(button)
+        red, green, blue = picture:pixel(11, 3)
+        after = table.concat({ picture:pixel(40, 3) }, ",")
+        state = zebhost.snapshot(button).state
+    )");
+    EXPECT_EQ(luaValue("label"), "27,1,52,22");  // the border, the 22-unit image, the gap
+    EXPECT_EQ(luaValue("red > 200 and green > 100 and green < 200 and blue < 80"), "true");
+    EXPECT_EQ(luaValue("after"), "215,217,222,255");  // the face beside the image
+    EXPECT_EQ(luaValue("state.imageName .. tostring(state.imageSupply)"), "zeblua_badgetrue");
 }
 
 // A button switched off by its group may take itself and the chosen one out of the tree

@@ -20,6 +20,7 @@
 #include "zebui/controls/UI_InteractiveControlView.h"
 #include "zebui/controls/UI_Knob.h"
 #include "zebui/controls/UI_PictureButton.h"
+#include "zebui/controls/UI_PictureTextButton.h"
 #include "zebui/controls/UI_Popup.h"
 #include "zebui/controls/UI_RadioButton.h"
 #include "zebui/controls/UI_RadioGroup.h"
@@ -147,6 +148,10 @@ void fillPictureState(lua_State* L, const zui::UI_Node& node) {
     if (const auto* button = dynamic_cast<const controls::UI_PictureButton*>(&node)) {
         setString(L, "imageName", button->GetImageBaseName());
         client = button;
+    } else if (const auto* textButton =
+                   dynamic_cast<const controls::UI_PictureTextButton*>(&node)) {
+        setString(L, "imageName", textButton->GetImageBaseName());
+        client = textButton;
     } else if (const auto* image = dynamic_cast<const controls::UI_StaticImage*>(&node)) {
         setString(L, "imageName", image->GetImageName());
         client = image;

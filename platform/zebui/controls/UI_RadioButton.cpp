@@ -1,8 +1,6 @@
 // A radio button.
 #include "zebui/controls/UI_RadioButton.h"
 
-#include <boost/intrusive_ptr.hpp>
-
 #include "zebui/controls/ControlFace.h"
 #include "zebui/controls/UI_RadioGroup.h"
 
@@ -17,7 +15,8 @@ UI_RadioButton::~UI_RadioButton() = default;
 // ran; the group is held, since they may take the button out of it.
 void UI_RadioButton::SetValue(RadioValue value) {
     const auto keep = ui::KeepNodeAlive(this);
-    const boost::intrusive_ptr<UI_RadioGroup> group(GetRadioGroup());
+    UI_RadioGroup* group = GetRadioGroup();
+    const auto keepGroup = ui::KeepNodeAlive(group);
     const bool wasOn = mValue == kRadioValue_On;
     if (group && value == kRadioValue_On) group->SwitchOffAllBut(this);
     changeValue(value);
