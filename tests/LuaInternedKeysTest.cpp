@@ -42,8 +42,15 @@ TEST_F(LuaInternedKeysTest, KeysAreTheStatesOwnStringsMadeOncePerState) {
         EXPECT_TRUE(lua_rawequal(L, -1, -2)) << kNames[key - 1];
         lua_pop(L, 2);
     }
+    // Past the names, the table's own registry reference, by which a main thread finds it.
     lua_rawgeti(L, keys, 4);
+    ASSERT_EQ(lua_type(L, -1), LUA_TNUMBER);
+    lua_rawgeti(L, LUA_REGISTRYINDEX, static_cast<int>(lua_tointeger(L, -1)));
+    EXPECT_TRUE(lua_rawequal(L, keys, -1));
+    lua_pop(L, 2);
+    lua_rawgeti(L, keys, 5);
     EXPECT_TRUE(lua_isnil(L, -1));
+    lua_pop(L, 1);
 
     // Another state has its own table, not a stale reference into this one.
     lua_State* other = luaL_newstate();
@@ -53,6 +60,25 @@ TEST_F(LuaInternedKeysTest, KeysAreTheStatesOwnStringsMadeOncePerState) {
     lua_rawgeti(other, 2, 2);
     EXPECT_STREQ(lua_tostring(other, -1), "left");
     lua_close(other);
+
+    // A state opened after the remembered one closed (often at its very address) and a
+    // coroutine each get their own state's table.
+    for (int round = 0; round < 2; ++round) {
+        lua_State* next = luaL_newstate();
+        ASSERT_NE(next, nullptr);
+        const int nextKeys = sKeys.Push(next);
+        EXPECT_EQ(sKeys.Push(next), nextKeys + 1);
+        EXPECT_TRUE(lua_rawequal(next, nextKeys, nextKeys + 1));
+        lua_rawgeti(next, nextKeys, 1);
+        EXPECT_STREQ(lua_tostring(next, -1), "top");
+        lua_close(next);
+    }
+    lua_State* coroutine = lua_newthread(L);
+    const int threadKeys = sKeys.Push(coroutine);
+    lua_pushvalue(coroutine, threadKeys);
+    lua_xmove(coroutine, L, 1);
+    EXPECT_TRUE(lua_rawequal(L, keys, -1)) << "a coroutine shares its state's table";
+    lua_pop(L, 2);
 
     // The table lives in the registry, not on the stack it was first pushed on.
     lua_settop(L, 0);

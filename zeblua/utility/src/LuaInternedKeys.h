@@ -23,13 +23,19 @@ public:
     InternedKeys(const InternedKeys&) = delete;
     InternedKeys& operator=(const InternedKeys&) = delete;
 
-    // Pushes the key table, names[i] at i + 1, and returns its absolute index. Makes the
-    // table on the first call in a state, the only time it can raise (a memory error).
+    // Pushes the key table, names[i] at i + 1, and returns its absolute index. Can raise
+    // a memory error only on the first call in a state, or on the first on a main thread
+    // after another's: it makes the table, or the close sentinel that lets the table be
+    // found by its integer registry reference.
     int Push(lua_State* L) const;
 
 private:
     const char* const* mNames;
     int mCount;
+    // The table's registry reference in the state of the remembered main thread, valid
+    // while mGeneration is the remembered thread's.
+    mutable int mReference = 0;
+    mutable unsigned long long mGeneration = 0;
 };
 
 }  // namespace utility
