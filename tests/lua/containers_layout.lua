@@ -93,6 +93,17 @@ checkEqual(clicks, 1, "and reached the view beneath")
 checkEqual(zebhost.click(root, 90, 90):UI_GetNodeID(), "badge", "the overlay's child is hit")
 checkEqual(clicks, 1, "the view beneath did not hear that one")
 
+-- A check box beneath an overlay takes the click that lands on the overlay.
+local panel = zebhost.newNode("UI_SubView", "panel", rect(0, 0, 100, 100))
+local box = C.NewCheckbox()
+box:UI_SetLocalRectF(rect(10, 10, 60, 16))
+panel:ChildPushBack(box)
+local cover = C.NewOverlaySubView()
+cover:UI_SetLocalRectF(rect(0, 0, 100, 100))
+panel:ChildPushBack(cover)
+zebhost.click(panel, 15, 15)
+checkEqual(zebhost.snapshot(box).state.checked, true, "the check box beneath the overlay toggled")
+
 -- The overlay draws its children on demand from its own draw hook; an inkwell kept past its
 -- scope is reported and draws nothing.
 local kept
