@@ -5,6 +5,7 @@
 #include <lua.hpp>
 
 #include "host/src/HostCanvas.h"
+#include "host/src/HostCommands.h"
 #include "host/src/HostHarness.h"
 #include "host/src/HostInputCodes.h"
 #include "host/src/HostNodes.h"
@@ -66,6 +67,7 @@ void OpenHostFunctions(lua_State* L) {
     OpenHostHarness(L);
     OpenHostPicture(L);
     OpenHostSnapshot(L);
+    OpenHostCommands(L);
 }
 
 }  // namespace zebhost

@@ -28,5 +28,10 @@ void App::SetAppAvailable(bool available) {
     sAppAvailable = available;
 }
 
+bool App::DoHandleCommand(int commandId) {
+    mCommandsReached.push_back(commandId);
+    return false;
+}
+
 }  // namespace app
 }  // namespace vex

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <vector>
+
+#include "vex/uisupport/CommandHandler.h"
 
 namespace zebui {
 namespace utility {
@@ -42,7 +45,10 @@ private:
     std::unique_ptr<zebworkspace::workspace::Workspace> mWorkspace;
 };
 
-class App : public AppBase {
+// The application is the last handler of every command chain. It carries out no command
+// itself; it remembers the ones that reached it, so a host can tell that a command went
+// all the way down.
+class App : public AppBase, public uisupport::CommandHandler {
 public:
     // The application singleton, made on first use and kept to the end of the process.
     // Null while the host has said the application is not up yet (SetAppAvailable).
@@ -50,6 +56,16 @@ public:
     // A host that runs scripts before its application object is ready says so with false;
     // the application is available from the start.
     static void SetAppAvailable(bool available);
+
+    // The commands that reached the application's own handling, oldest first.
+    const std::vector<int>& GetCommandsReached() const { return mCommandsReached; }
+    void ClearCommandsReached() { mCommandsReached.clear(); }
+
+protected:
+    bool DoHandleCommand(int commandId) override;
+
+private:
+    std::vector<int> mCommandsReached;
 };
 
 }  // namespace app
