@@ -21,8 +21,10 @@ bool& echoEnabled() {
 
 ScriptPlaceProvider sScriptPlaceProvider = nullptr;
 
-// The build passes absolute source paths; a report names files from the source tree's
-// root, which this file's own path gives.
+// The build passes absolute source paths (or paths relative to the build folder, under a
+// compiler cache); a report names files from the source tree's root, which this file's own
+// path gives. A name that climbs above the root (a site's own literal "../../../x.h") is no
+// path of the tree and stays as it is.
 std::string sourceRelative(const char* file) {
     static const std::string sRoot = [] {
         const std::string self = __FILE__;
@@ -31,7 +33,8 @@ std::string sourceRelative(const char* file) {
                             self.compare(self.size() - tail.size(), tail.size(), tail) == 0;
         return rooted ? self.substr(0, self.size() - tail.size()) : std::string();
     }();
-    if (!sRoot.empty() && std::strncmp(file, sRoot.c_str(), sRoot.size()) == 0)
+    if (!sRoot.empty() && std::strncmp(file, sRoot.c_str(), sRoot.size()) == 0 &&
+        std::strncmp(file + sRoot.size(), "../", 3) != 0)
         return file + sRoot.size();
     return file;
 }

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "zeblua/utility/src/MainThread.h"
+
 struct lua_State;
 
 namespace zeblua {
@@ -24,18 +26,13 @@ public:
     InternedKeys& operator=(const InternedKeys&) = delete;
 
     // Pushes the key table, names[i] at i + 1, and returns its absolute index. Can raise
-    // a memory error only on the first call in a state, or on the first on a main thread
-    // after another's: it makes the table, or the close sentinel that lets the table be
-    // found by its integer registry reference.
+    // a memory error only on the first call in a state, which makes the table.
     int Push(lua_State* L) const;
 
 private:
     const char* const* mNames;
     int mCount;
-    // The table's registry reference in the state of the remembered main thread, valid
-    // while mGeneration is the remembered thread's.
-    mutable int mReference = 0;
-    mutable unsigned long long mGeneration = 0;
+    CachedRegistryReference mReference;  // the table's
 };
 
 }  // namespace utility

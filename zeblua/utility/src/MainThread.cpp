@@ -1,4 +1,4 @@
-// Remembering a universe's main thread in its registry.
+// Remembering a universe's main thread in its registry, and forgetting it as its state closes.
 #include "zeblua/utility/src/MainThread.h"
 
 #include <lua.hpp>
@@ -13,9 +13,29 @@ namespace {
 char sMainThreadKey;  // its address keys registry[key] = main thread
 char sCloseWatchKey;  // a registry table whose sentinel tells when the state closes
 
+// Main threads whose close sentinel will forget them.
+constexpr int kMostStates = 8;
+lua_State* sRememberedThreads[kMostStates];
+
+// The thread that CachedRegistryReference values belong to, and its generation.
+lua_State* sCachingThread = nullptr;
+unsigned long long sCachingGeneration = 0;
+
+void remember(lua_State* L) {
+    for (lua_State*& slot : sRememberedThreads) {
+        if (!slot) {
+            slot = L;
+            return;
+        }
+    }
+}
+
 // The close sentinel's: lua_close runs finalizers on the main thread.
 int forgetClosingThread(lua_State* L) {
-    ForgetMainThread(L);
+    for (lua_State*& slot : sRememberedThreads)
+        if (slot == L) slot = nullptr;
+    if (L == sCachingThread) sCachingThread = nullptr;
+    ForgetRunningState(L);
     return 0;
 }
 
@@ -37,7 +57,7 @@ void RecordMainThread(lua_State* L) {
     if (!isMain || recordedMainThread(L) == L) return;
     PushOrMakeRegistryTable(L, &sCloseWatchKey, nullptr, forgetClosingThread);
     lua_pop(L, 1);
-    RememberMainThread(L); /* only once the sentinel will forget it */
+    remember(L); /* only once the sentinel will forget it */
     lua_pushlightuserdata(L, &sMainThreadKey);
     lua_pushthread(L);
     lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = L */
@@ -47,6 +67,29 @@ lua_State* GetMainThread(lua_State* L) {
     if (lua_State* main = recordedMainThread(L)) return main;
     RecordMainThread(L);
     return recordedMainThread(L);
+}
+
+bool IsRememberedMainThread(lua_State* L) {
+    if (L && L == sCachingThread) return true;
+    for (lua_State* remembered : sRememberedThreads)
+        if (remembered && remembered == L) return true;
+    return false;
+}
+
+bool CachedRegistryReference::Push(lua_State* L) const {
+    if (L != sCachingThread || mGeneration != sCachingGeneration) return false;
+    lua_rawgeti(L, LUA_REGISTRYINDEX, mReference);
+    return true;
+}
+
+void CachedRegistryReference::Keep(lua_State* L, int reference) const {
+    if (L != sCachingThread) {
+        if (!IsRememberedMainThread(L)) return;
+        sCachingThread = L;
+        ++sCachingGeneration;
+    }
+    mReference = reference;
+    mGeneration = sCachingGeneration;
 }
 
 }  // namespace utility

@@ -7,6 +7,7 @@
 #include <lua.hpp>
 
 #include "zebcore/debug/Debug.h"
+#include "zeblua/utility/src/MainThread.h"
 
 namespace zeblua {
 namespace utility {
@@ -25,16 +26,6 @@ struct Record {
 
 Record sRecords[kDeepestRecord];
 int sDepth = 0;
-
-// Main threads that outlive every guard made on them, as their close forgets them first.
-constexpr int kMostStates = 8;
-lua_State* sRememberedThreads[kMostStates];
-
-bool isRemembered(lua_State* L) {
-    for (lua_State* remembered : sRememberedThreads)
-        if (remembered == L) return true;
-    return false;
-}
 
 // Drops the records at or below frame. The C stack grows downwards and a live enclosing
 // guard always lies above, so these are the guard's own and any that a Lua error skipped.
@@ -88,7 +79,7 @@ RunningScript::RunningScript(lua_State* L, Reading reading) {
     if (sDepth < kDeepestRecord) {
         Record& record = sRecords[sDepth];
         record.frame = frame;
-        record.readAtReport = reading == kAtReport || isRemembered(L) ? L : nullptr;
+        record.readAtReport = reading == kAtReport || IsRememberedMainThread(L) ? L : nullptr;
         record.line = -1;
         if (!record.readAtReport) readPlace(L, record);
     }
@@ -102,19 +93,7 @@ RunningScript::~RunningScript() {
         dropFrom(reinterpret_cast<std::uintptr_t>(this));
 }
 
-void RememberMainThread(lua_State* L) {
-    if (isRemembered(L)) return;
-    for (lua_State*& slot : sRememberedThreads) {
-        if (!slot) {
-            slot = L;
-            return;
-        }
-    }
-}
-
-void ForgetMainThread(lua_State* L) {
-    for (lua_State*& slot : sRememberedThreads)
-        if (slot == L) slot = nullptr;
+void ForgetRunningState(lua_State* L) {
     for (Record& record : sRecords)
         if (record.readAtReport == L) record.readAtReport = nullptr;  // line stays -1: no place
 }

@@ -12,8 +12,8 @@ namespace utility {
 // kNow is RunNative's, around every binding's C++ work, where a Lua error may skip the guard
 // (longjmp runs no destructor) and L may be a coroutine that is collected later; the next
 // guard at or above the skipped one's C stack frame drops its record. So it keeps L only
-// when L is a main thread the library remembers (RememberMainThread), which lives until its
-// state closes, and reads the place when a report asks; on any other state it reads the
+// when L is a main thread the library remembers (IsRememberedMainThread), which lives until
+// its state closes, and reads the place when a report asks; on any other state it reads the
 // place when the guard is made and copies it, so the record holds nothing of L.
 //
 // kAtReport keeps L and reads the place when a report asks, so a report from anywhere in
@@ -30,13 +30,9 @@ public:
     RunningScript& operator=(const RunningScript&) = delete;
 };
 
-// L is the main thread of a state that calls ForgetMainThread(L) as it closes (a close
-// sentinel, see MainThread): until then kNow guards on L read the place only when a report
-// asks, which costs nothing when none is made. A few states at a time; beyond them guards
-// read at once.
-void RememberMainThread(lua_State* L);
-// L's state is closing: no record reads L after this, and guards read at once again.
-void ForgetMainThread(lua_State* L);
+// L's state is closing (its main thread's close sentinel, see MainThread): no record reads
+// L after this.
+void ForgetRunningState(lua_State* L);
 
 }  // namespace utility
 }  // namespace zeblua

@@ -13,6 +13,7 @@
 #include "zeblua/inkwell/src/LuaInkwell.h"
 #include "zeblua/inkwell/src/LuaSurfaceInterface.h"
 #include "zeblua/utility/src/LuaProxy.h"
+#include "zeblua/utility/src/MainThread.h"
 #include "zeblua/utility/src/RegistryTables.h"
 #include "zebui/inkwell/Inkwell.h"
 #include "zebui/inkwell/SurfaceInterface.h"
@@ -79,13 +80,8 @@ enum ScopeTableSlot {
     kFirstAnchorSlot,
 };
 
-// The main thread that last read its scope table, and that table's integer registry
-// reference: a draw path reads the table at every scope and every proxy check, and
-// lua_rawgeti on an integer key is the cheapest read of the registry. Only a main thread
-// is remembered, because it lives until lua_close, whose sentinel forgets it; so while
-// the pointer is set no other state can have a thread at its address.
-lua_State* sRememberedMainThread = nullptr;
-int sRememberedReference = LUA_NOREF;
+// A draw path reads the scope table at every scope and every proxy check.
+const utility::CachedRegistryReference sScopeTableReference;
 
 // The anchor of depth's Inkwell proxy; the next slot is its surface record's.
 int anchorSlot(int depth) {
@@ -110,7 +106,6 @@ void unlist(const InkwellProxy* record) {
 // a guard a Lua error skipped) must not leave the state's records listed once their memory
 // goes. Metatables in the scope table are no records, and unlisting them finds nothing.
 int unlistAnchoredRecords(lua_State* L) {
-    if (L == sRememberedMainThread) sRememberedMainThread = nullptr;
     for (const void* key : {&sScopeAnchorsKey, &sScopeTableKey}) {
         PushRegistryTable(L, key);
         if (lua_istable(L, -1)) {
@@ -148,22 +143,14 @@ void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
     lua_rawseti(L, -2, metatableSlot(kind, false)); /* T */
 }
 
-// Pushes the scope table of L's state, or nil before the first scope; remembers it when L
-// is a main thread. Raises no Lua error.
+// Pushes the scope table of L's state, or nil before the first scope. Raises no Lua error.
 void pushExistingScopeTable(lua_State* L) {
-    if (L == sRememberedMainThread) {
-        lua_rawgeti(L, LUA_REGISTRYINDEX, sRememberedReference);
-        return;
-    }
+    if (sScopeTableReference.Push(L)) return;
     PushRegistryTable(L, &sScopeTableKey);
     if (!lua_istable(L, -1)) return;
-    const bool mainThread = lua_pushthread(L) != 0;
-    lua_rawgeti(L, -2, kOwnReference);
-    if (mainThread) {
-        sRememberedMainThread = L;
-        sRememberedReference = static_cast<int>(lua_tointeger(L, -1));
-    }
-    lua_pop(L, 2);
+    lua_rawgeti(L, -1, kOwnReference);
+    sScopeTableReference.Keep(L, static_cast<int>(lua_tointeger(L, -1)));
+    lua_pop(L, 1);
 }
 
 // Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
