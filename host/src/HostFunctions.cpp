@@ -11,6 +11,7 @@
 #include "host/src/HostNodes.h"
 #include "host/src/HostPicture.h"
 #include "host/src/HostSnapshot.h"
+#include "host/src/HostViews.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/ui/EventLoop.h"
@@ -36,6 +37,15 @@ int hostNow(lua_State* L) {
     return 1;
 }
 
+// Moves the virtual clock ms forward, firing the timers that fall due on the way.
+int hostAdvance(lua_State* L) {
+    const lua_Number ms = luaL_checknumber(L, 1);
+    return zeblua::utility::RunNative(L, "zebhost.advance", [&] {
+        EventLoop::Get()->AdvanceTime(ms > 0 ? static_cast<zebui::ui::VirtualTime>(ms) : 0);
+        return 0;
+    });
+}
+
 int hostQuit(lua_State*) {
     EventLoop::Get()->Quit();
     return 0;
@@ -53,9 +63,9 @@ int hostAnswer(lua_State* L) {
 }
 
 const luaL_Reg functions[] = {
-    {"now", hostNow},       {"quit", hostQuit},
-    {"answer", hostAnswer}, {"inputCodes", PushInputCodes},
-    {"canvas", HostCanvas}, {NULL, NULL},
+    {"now", hostNow},       {"advance", hostAdvance},       {"quit", hostQuit},
+    {"answer", hostAnswer}, {"inputCodes", PushInputCodes}, {"canvas", HostCanvas},
+    {NULL, NULL},
 };
 
 }  // namespace
@@ -68,6 +78,7 @@ void OpenHostFunctions(lua_State* L) {
     OpenHostPicture(L);
     OpenHostSnapshot(L);
     OpenHostCommands(L);
+    OpenHostViews(L);
 }
 
 }  // namespace zebhost

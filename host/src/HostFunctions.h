@@ -10,6 +10,7 @@ namespace zebhost {
 // Adds the functions to the global table zebhost, made if missing; leaves the stack as
 // it was.
 //   zebhost.now()                        -> virtual time in milliseconds
+//   zebhost.advance(ms)                  -- moves it forward, firing due timers
 //   zebhost.quit()                       -- ends the event loop after the current call
 //   zebhost.answer(code [, text [, ms]]) -- queues a user answer, taken ms or later
 //   zebhost.inputCodes()                 -> the input constants (HostInputCodes.h), which
@@ -17,7 +18,7 @@ namespace zebhost {
 //   zebhost.canvas(w, h, fn [, pngPath]) -> true; fn(ink) draws (HostCanvas.h)
 // and the test harness: newNode (HostNodes.h); sendMouse, click, drag, sendKey, type,
 // assertReports, clearAssertReports (HostHarness.h); draw, compareImage (HostPicture.h);
-// snapshot (HostSnapshot.h).
+// snapshot (HostSnapshot.h); the views from XML hooks (HostViews.h).
 void OpenHostFunctions(lua_State* L);
 
 }  // namespace zebhost

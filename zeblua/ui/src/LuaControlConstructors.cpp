@@ -16,6 +16,7 @@
 #include "zeblua/ui/src/LuaOverlaySubView.h"
 #include "zeblua/ui/src/LuaPopupWindow.h"
 #include "zeblua/ui/src/LuaUI_TabWell.h"
+#include "zeblua/ui/src/LuaViewFromXML.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/UI_Checkbox.h"
 #include "zebui/controls/UI_DisclosureTriangleButton.h"
@@ -106,11 +107,6 @@ zu::UI_Node* makeSectionView() {
 
 zu::UI_Node* makeWebView() {
     return new zebwebview::ZEBWebView(0);
-}
-
-// zebcontrols.LoadControlsFromXml(...): answers nothing until views load from XML.
-int controlsLoadControlsFromXml(lua_State*) {
-    return 0;
 }
 
 // zebcontrols.NewPictureButton([imageBaseName])
@@ -227,7 +223,7 @@ int PushNewControl(lua_State* L, zu::UI_Node* (*make)()) {
 }
 
 const luaL_Reg kControlConstructors[] = {
-    {"LoadControlsFromXml", controlsLoadControlsFromXml},
+    {"LoadControlsFromXml", LoadControlsFromXML},
     {"NewCheckbox", controlNew<MakeByDefault<zc::UI_Checkbox>>},
     {"NewRadioButton", controlNew<MakeByDefault<zc::UI_RadioButton>>},
     {"NewPictureButton", controlsNewPictureButton},
