@@ -4,7 +4,10 @@
 namespace zeblua {
 namespace ui {
 
-LuaMultiColumnTreeRow::LuaMultiColumnTreeRow() = default;
+LuaMultiColumnTreeRow::LuaMultiColumnTreeRow() : UI_MultiColumnTreeRow(true) {}
+
+LuaMultiColumnTreeRow::LuaMultiColumnTreeRow(const zebcore::UTF8String& id)
+    : UI_MultiColumnTreeRow(true), mID(id) {}
 
 LuaMultiColumnTreeRow::~LuaMultiColumnTreeRow() = default;
 
