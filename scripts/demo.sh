@@ -23,3 +23,8 @@ echo "== a panel of controls from zebcontrols, drawn by the toolkit (examples/co
 png="$(dirname "$build")/examples/controls.png"
 "$build/bin/zebhost" examples/controls.lua "$png"
 echo "open $png to see the panel"
+echo
+echo "== a view described in XML, loaded and drawn (examples/view.lua, examples/xml/transport.xml)"
+png="$(dirname "$build")/examples/view.png"
+"$build/bin/zebhost" examples/view.lua "$png"
+echo "open $png to see the view"

@@ -9,7 +9,10 @@ struct luaL_Reg;
 namespace zeblua {
 namespace ui {
 
-// "zebHotTextTimecode": the hot text number set, then its own rows.
+extern const char* const kZebHotTextTimecodeMetatable;
+
+// "zebHotTextTimecode": the hot text number set, then its own rows, whose value and
+// editing methods take the place of the number set's.
 class LuaUI_HotTextTimecodeWrapper : public LuaControlWrapperBase {
 public:
     using LuaControlWrapperBase::LuaControlWrapperBase;
