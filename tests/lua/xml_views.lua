@@ -71,6 +71,12 @@ local overlay = load("overlay")
 checkEqual(getmetatable(overlay), registry.zebOverlaySubView, "the overlay's wrapper")
 checkEqual(getmetatable(overlay:GetDescendentByID("knob")), registry.zebKnob, "its knob")
 
+-- The binding's tree class, beside a toolkit class with constructor arguments of its own.
+local browser = load("tree")
+checkEqual(getmetatable(browser:GetDescendentByID("tree")), registry["Zeb.MultiColumnTree"],
+  "a LuaMultiColumnTree gets the tree's wrapper")
+checkEqual(getmetatable(browser:GetDescendentByID("search")), registry.zebSearchBox, "a search box")
+
 -- Malformed, empty and unbuildable views answer nothing; the malformed one is reported.
 zebhost.clearAssertReports()
 checkEqual(select("#", load("broken")), 0, "malformed XML: nothing")
