@@ -141,8 +141,9 @@ TEST_F(XmlViewTest, UnknownClassesGoToTheFactoryOrAreSkippedWithTheirChildren) {
 }
 
 TEST_F(XmlViewTest, TheBindingsFourNamesComeFirstThenInstalledFactoriesOldestFirst) {
-    int askedForImage = 0;
-    zl::InstallNodeFactoryFxn([&](const zebcore::UTF16String& name) {
+    // The factories stay installed for the process, so what they touch lives as long.
+    static int askedForImage = 0;
+    zl::InstallNodeFactoryFxn([](const zebcore::UTF16String& name) {
         if (name == u"LuaStaticImage") ++askedForImage;
         return name == u"XmlTestShared" ? NodeP(new zebui::controls::UI_Checkbox()) : NodeP();
     });
