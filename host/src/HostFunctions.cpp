@@ -5,6 +5,7 @@
 #include <lua.hpp>
 
 #include "host/src/HostCanvas.h"
+#include "host/src/HostDataTransfer.h"
 #include "host/src/HostCommands.h"
 #include "host/src/HostHarness.h"
 #include "host/src/HostInputCodes.h"
@@ -77,6 +78,7 @@ void OpenHostFunctions(lua_State* L) {
     OpenHostHarness(L);
     OpenHostPicture(L);
     OpenHostSnapshot(L);
+    OpenHostDataTransfer(L);
     OpenHostCommands(L);
     OpenHostViews(L);
 }
