@@ -121,6 +121,22 @@ TEST_F(XmlViewTest, BadAttributesAreReportedAndKeepTheDefault) {
     EXPECT_NE(lastReport().find("'shown'"), std::string::npos) << lastReport();
 }
 
+TEST_F(XmlViewTest, ElementsDeeperThanViewsNestAreSkipped) {
+    std::string xml;
+    for (int depth = 1; depth <= UI_NodeBuilder::kDeepestNesting + 5; ++depth)
+        xml += "<UI_SubView id=\"" + std::to_string(depth) + "\">";
+    for (int depth = 1; depth <= UI_NodeBuilder::kDeepestNesting + 5; ++depth)
+        xml += "</UI_SubView>";
+    UI_NodeBuilder::NodeMap nodes;
+    const NodeP root = buildText(xml, nodes);
+    ASSERT_TRUE(root);
+    EXPECT_EQ(nodes.size(), size_t(UI_NodeBuilder::kDeepestNesting));
+    EXPECT_EQ(nodes.count(std::to_string(UI_NodeBuilder::kDeepestNesting)), 1u);
+    EXPECT_EQ(nodes.at(std::to_string(UI_NodeBuilder::kDeepestNesting))->ChildSize(), 0u);
+    EXPECT_EQ(reportCount(), 1u) << "one report for the skipped subtree";
+    EXPECT_NE(lastReport().find("deeper"), std::string::npos) << lastReport();
+}
+
 TEST_F(XmlViewTest, UnknownClassesGoToTheFactoryOrAreSkippedWithTheirChildren) {
     UI_NodeBuilder::NodeMap nodes;
     std::u16string asked;

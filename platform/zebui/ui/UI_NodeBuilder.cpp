@@ -144,9 +144,15 @@ public:
     TreeBuilder(UI_NodeBuilder::NodeMap& nodes, UI_NodeBuilder::NodeFactory& factory)
         : mNodes(nodes), mFactory(factory) {}
 
-    // The element's node with its subtree, or null when nobody makes its class.
-    NodeP build(const pugi::xml_node& element) {
+    // The element's node with its subtree, or null when nobody makes its class or it lies
+    // too deep.
+    NodeP build(const pugi::xml_node& element, int depth = 1) {
         const char* className = element.name();
+        ZEB_ASSERT_MSG(depth <= UI_NodeBuilder::kDeepestNesting,
+                       (std::string("view element '") + className +
+                        "' lies deeper than views nest; skipped with its children")
+                           .c_str());
+        if (depth > UI_NodeBuilder::kDeepestNesting) return nullptr;
         NodeP node = UI_NodeBuilder::MakeKnownClass(className);
         if (!node && !mFactory.empty()) node = mFactory(zebcore::utility::UTF8to16(className));
         ZEB_ASSERT_MSG(node, (std::string("view class '") + className +
@@ -165,7 +171,7 @@ public:
         }
         for (const pugi::xml_node& child : element.children()) {
             if (child.type() != pugi::node_element) continue;
-            if (const NodeP built = build(child)) node->ChildPushBack(built);
+            if (const NodeP built = build(child, depth + 1)) node->ChildPushBack(built);
         }
         return node;
     }

@@ -31,6 +31,9 @@ class UI_NodeBuilder : public zebcore::utility::RefCountedObject {
 public:
     using NodeFactory = boost::function<boost::intrusive_ptr<UI_Node>(const zebcore::UTF16String&)>;
     using NodeMap = std::map<const zebcore::UTF8String, UI_Node*>;
+    // Elements nested deeper than this (the root is at 1) are skipped with a report, so a
+    // hostile file can't exhaust the stack of the build or of the tree's own walks.
+    static constexpr int kDeepestNesting = 200;
 
     // Takes the whole text; it is parsed at each Build.
     explicit UI_NodeBuilder(const zebcore::UTF8String& xml);
