@@ -28,3 +28,6 @@ echo "== a view described in XML, loaded and drawn (examples/view.lua, examples/
 png="$(dirname "$build")/examples/view.png"
 "$build/bin/zebhost" examples/view.lua "$png"
 echo "open $png to see the view"
+echo
+echo "== a form dialog run modally and filled in by the scripted user (examples/dialog.lua)"
+"$build/bin/zebhost" examples/dialog.lua

@@ -12,6 +12,7 @@
 #include "host/src/HostNodes.h"
 #include "host/src/HostPicture.h"
 #include "host/src/HostSnapshot.h"
+#include "host/src/HostWindows.h"
 #include "host/src/HostViews.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/RunNative.h"
@@ -80,6 +81,7 @@ void OpenHostFunctions(lua_State* L) {
     OpenHostSnapshot(L);
     OpenHostDataTransfer(L);
     OpenHostCommands(L);
+    OpenHostWindows(L);
     OpenHostViews(L);
 }
 

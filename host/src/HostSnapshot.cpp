@@ -40,6 +40,7 @@
 #include "zebui/ui/OS_ViewContainer.h"
 #include "zebui/ui/UI_Dialog.h"
 #include "zebui/ui/UI_Node.h"
+#include "zebui/ui/UI_NodeManager.h"
 #include "zebui/ui/UI_SubView.h"
 
 namespace zebhost {
@@ -241,11 +242,35 @@ void fillPopupState(lua_State* L, const zui::UI_Node& node) {
         setInteger(L, "popupType", popup->GetPopupType());
 }
 
+// A window's records: ownerWindow (the owner's id), ownedCount, active, modal (the top of
+// the manager's modal window stack); with a platform window, its level, shadow, worksWhenModal,
+// platformClass, parentWindow (the id of the toolkit window of its parent) and
+// childWindowCount.
+void fillWindowRecords(lua_State* L, const zui::UI_Node& node) {
+    const auto* window = dynamic_cast<const zui::OS_Window*>(&node);
+    if (!window) return;
+    if (const zui::UI_Window* owner = window->GetOwner())
+        setString(L, "ownerWindow", owner->UI_GetNodeID());
+    setInteger(L, "ownedCount", static_cast<lua_Integer>(window->GetOwnedWindows().size()));
+    setBoolean(L, "active", window->IsActive());
+    setBoolean(L, "modal", zui::UI_NodeManager::Get(false)->GetModalWindow() == window);
+    const NSWindow* platform = window->GetPlatformWindow();
+    if (!platform) return;
+    setInteger(L, "level", platform->GetLevel());
+    setBoolean(L, "hasShadow", platform->hasShadow());
+    setBoolean(L, "worksWhenModal", platform->worksWhenModal());
+    if (platform->GetClass()) setString(L, "platformClass", platform->GetClass()->name);
+    if (const NSWindow* parent = platform->parentWindow())
+        setString(L, "parentWindow", parent->GetToolkitWindow()->UI_GetNodeID());
+    setInteger(L, "childWindowCount", static_cast<lua_Integer>(platform->childWindows().size()));
+}
+
 void fillWindowState(lua_State* L, const zui::UI_Node& node) {
     if (const auto* container = dynamic_cast<const zui::OS_ViewContainer*>(&node))
         setBoolean(L, "popsUp", container->PopsUp());
     if (const auto* popup = dynamic_cast<const zeblua::ui::LuaPopupWindow*>(&node))
         setBoolean(L, "floating", popup->IsFloating());
+    fillWindowRecords(L, node);
 }
 
 // owner: the id of the owner node, or of the toolkit window of the owning operating
@@ -259,6 +284,8 @@ void fillDialogState(lua_State* L, const zui::UI_Node& node) {
         platformOwner ? platformOwner->GetToolkitWindow() : dialog->GetOwnerNode();
     if (owner) setString(L, "owner", owner->UI_GetNodeID());
     setBoolean(L, "ownerIsPlatformWindow", platformOwner != nullptr);
+    setInteger(L, "response", dialog->GetResponse());
+    setBoolean(L, "running", dialog->IsRunningModal());
 }
 
 // One per class with state of its own, each adding only its own fields: value, bounds,

@@ -201,6 +201,14 @@ void EventLoop::EndModal(int code, const zebcore::UTF8String& text) {
     (*open)->result = ModalResult{false, code, text};
 }
 
+void EventLoop::EndModalAt(int depth, int code, const zebcore::UTF8String& text) {
+    if (depth < 1 || depth > GetModalDepth()) return;
+    ModalRun* run = mModalRuns[static_cast<size_t>(depth - 1)];
+    if (run->ended) return;
+    run->ended = true;
+    run->result = ModalResult{false, code, text};
+}
+
 void EventLoop::QueueUserAnswer(const UserAnswer& answer) {
     mAnswers.push_back({answer, later(mNow, answer.delayMs)});
 }

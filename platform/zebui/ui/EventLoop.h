@@ -92,6 +92,10 @@ public:
     ModalResult RunModal(const AnswerHandler& onAnswer = AnswerHandler());
     // Ends the innermost modal run that hasn't ended yet; so two calls end two levels.
     void EndModal(int code, const zebcore::UTF8String& text = zebcore::UTF8String());
+    // Ends the open run at depth (1 the outermost, GetModalDepth() the innermost). Runs
+    // inside it go on until they end; then it returns at once. Nothing for a depth with no
+    // open run.
+    void EndModalAt(int depth, int code, const zebcore::UTF8String& text = zebcore::UTF8String());
     int GetModalDepth() const { return static_cast<int>(mModalRuns.size()); }
     void SetModalWaitLimit(VirtualTime ms) { mModalWaitLimitMs = ms; }
 

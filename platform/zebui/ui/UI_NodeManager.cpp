@@ -5,10 +5,13 @@
 #include <climits>
 #include <vector>
 
+#include "os/NSWindow.h"
 #include "zebui/inkwell/cairo/CairoSupplier.h"
 #include "zebui/ui/KeyboardEvent.h"
 #include "zebui/ui/MouseEvent.h"
+#include "zebui/ui/OS_Window.h"
 #include "zebui/ui/UI_Node.h"
+#include "zebui/ui/UI_Window.h"
 #include "zebui/utility/InkwellImageResourceCache.h"
 #include "zebui/utility/ResourceManager.h"
 
@@ -90,9 +93,14 @@ bool UI_NodeManager::DispatchMouseEvent(UI_Node* target, const MouseEvent& event
 
 boost::intrusive_ptr<UI_Node> UI_NodeManager::DispatchMouseEventAt(UI_Node* root,
                                                                    const MouseEvent& event) {
-    if (!root) return nullptr;
+    if (!root || IsHeldBackByModal(root)) return nullptr;
     const auto keepRoot = KeepNodeAlive(root);
     const MouseAction action = event.GetAction();
+    if (action == kMouseAction_Down) {
+        // A press in an inactive window activates it first, as a click on the screen does.
+        auto* window = dynamic_cast<UI_Window*>(root->UI_GetRootNode());
+        if (window && !window->IsActive()) window->ActivateByClick();
+    }
     UI_Node* target =
         mCapture && root->UI_GetRootNode() == mCapture->UI_GetRootNode() ? mCapture : nullptr;
     if (!target) {
@@ -147,6 +155,7 @@ void UI_NodeManager::moveMouseOver(UI_Node* node, const MouseEvent& global) {
 boost::intrusive_ptr<UI_Node> UI_NodeManager::DispatchKeyboardEvent(UI_Node* target,
                                                                     const KeyboardEvent& event) {
     if (!target) target = mFocus;
+    if (target && IsHeldBackByModal(target)) return nullptr;
     const auto keepTarget = KeepNodeAlive(target);
     for (UI_Node* node = target; node;) {
         const auto keep = KeepNodeAlive(node);
@@ -178,7 +187,35 @@ bool UI_NodeManager::DispatchCursor(UI_Node* target, const zebcore::geom::PointT
     return target && target->DeliverCursor(where, modifiers);
 }
 
+void UI_NodeManager::PushModalWindow(UI_Window* window) {
+    if (window) mModalWindows.push_back(window);
+}
+
+void UI_NodeManager::PopModalWindow(UI_Window* window) {
+    const auto found = std::find(mModalWindows.rbegin(), mModalWindows.rend(), window);
+    if (found != mModalWindows.rend()) mModalWindows.erase(std::next(found).base());
+}
+
+UI_Window* UI_NodeManager::GetModalWindow() const {
+    return mModalWindows.empty() ? nullptr : mModalWindows.back();
+}
+
+bool UI_NodeManager::IsHeldBackByModal(const UI_Node* root) const {
+    const UI_Window* modal = GetModalWindow();
+    if (!modal || !root) return false;
+    const UI_Node* top = root->UI_GetRootNode();
+    if (top == modal) return false;
+    const auto* window = dynamic_cast<const OS_Window*>(top);
+    const NSWindow* platform = window ? window->GetPlatformWindow() : nullptr;
+    return !(platform && platform->worksWhenModal());
+}
+
 void UI_NodeManager::NodeDestroyed(const UI_Node* node) {
+    mModalWindows.erase(std::remove_if(mModalWindows.begin(), mModalWindows.end(),
+                                       [node](const UI_Window* w) {
+                                           return static_cast<const UI_Node*>(w) == node;
+                                       }),
+                        mModalWindows.end());
     if (mFocus == node) mFocus = nullptr;
     if (mMouseOver == node) mMouseOver = nullptr;
     if (mCapture == node) mCapture = nullptr;

@@ -2,6 +2,9 @@
 // delivery of input events.
 #pragma once
 
+#include <cstddef>
+#include <vector>
+
 #include <boost/intrusive_ptr.hpp>
 
 #include "zebcore/geom/PointT.h"
@@ -18,6 +21,7 @@ class ResourceManager;
 namespace ui {
 
 class UI_Node;
+class UI_Window;
 class MouseEvent;
 class KeyboardEvent;
 
@@ -75,6 +79,17 @@ public:
     bool DispatchCursor(UI_Node* target, const zebcore::geom::PointT<float>& where,
                         ModifierFlags modifiers);
 
+    // The modal window stack. While a window is on it, pointer and key events for any
+    // other window's tree are held back (dispatch answers null), except for windows whose
+    // platform window works while a modal window runs (panels that ask for it). The stack
+    // holds no window: a dying window leaves it. Pop removes the window's topmost entry.
+    void PushModalWindow(UI_Window* window);
+    void PopModalWindow(UI_Window* window);
+    UI_Window* GetModalWindow() const;
+    size_t GetModalWindowCount() const { return mModalWindows.size(); }
+    // Whether events for root's tree are held back now.
+    bool IsHeldBackByModal(const UI_Node* root) const;
+
     // Called by a dying node: forgets every plain pointer to it.
     void NodeDestroyed(const UI_Node* node);
 
@@ -103,6 +118,7 @@ private:
     UI_Node* mMouseOver = nullptr;
     UI_Node* mCapture = nullptr;
     inkwell::SupplierInterface* mDefaultSupplier = nullptr;
+    std::vector<UI_Window*> mModalWindows;  // innermost last
 };
 
 }  // namespace ui

@@ -47,19 +47,7 @@ int protectedDispatch(lua_State* L) {
     lua_insert(L, -2); /* method, table */
     lua_pushinteger(L, call->commandId);
     if (!zeblua::utility::CallChecked(L, 2, 1, CallCleanup::kEmptyFrame)) return 0;
-    if (!lua_istable(L, -1)) return 0;
-    lua_getfield(L, -1, sLuaCmdIsHandledProp);
-    call->answer = lua_toboolean(L, -1) != 0;
-    lua_pop(L, 1);
-    if (call->outs && call->answer) {
-        lua_getfield(L, -1, sLuaCmdIsEnabledProp);
-        *call->outs->enabled = lua_toboolean(L, -1) != 0;
-        lua_getfield(L, -2, sLuaCmdIsCheckedProp);
-        *call->outs->checked = lua_toboolean(L, -1) != 0;
-        lua_getfield(L, -3, sLuaCmdNewDisplayStringProp);
-        const char* text = lua_tolstring(L, -1, nullptr); /* a number becomes its text */
-        if (text) assignDisplayString(call->outs->displayString, text);
-    }
+    call->answer = ReadCmdAnswer(L, -1, call->outs);
     lua_settop(L, 0);
     return 0;
 }
@@ -80,6 +68,25 @@ const luaL_Reg cmd_funcs[] = {
 };
 
 }  // namespace
+
+bool ReadCmdAnswer(lua_State* L, int index,
+                   const vex::uisupport::UnifiedDispatchBase::EnableOuts* outs) {
+    if (!lua_istable(L, index)) return false;
+    const int table = index < 0 ? lua_gettop(L) + index + 1 : index;
+    lua_getfield(L, table, sLuaCmdIsHandledProp);
+    const bool handled = lua_toboolean(L, -1) != 0;
+    lua_pop(L, 1);
+    if (!outs || !handled) return handled;
+    lua_getfield(L, table, sLuaCmdIsEnabledProp);
+    *outs->enabled = lua_toboolean(L, -1) != 0;
+    lua_getfield(L, table, sLuaCmdIsCheckedProp);
+    *outs->checked = lua_toboolean(L, -1) != 0;
+    lua_getfield(L, table, sLuaCmdNewDisplayStringProp);
+    const char* text = lua_tolstring(L, -1, nullptr); /* a number becomes its text */
+    if (text) assignDisplayString(outs->displayString, text);
+    lua_pop(L, 3);
+    return true;
+}
 
 LuaCmdAttachment::LuaCmdAttachment(int ref, lua_State* L) : StateBound(L), mRef(ref) {}
 

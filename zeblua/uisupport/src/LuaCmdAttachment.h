@@ -41,6 +41,13 @@ private:
     int mRef;
 };
 
+// Reads a command answer table at index: its isHandled, and when outs is given and the
+// command is handled, isEnabled, isChecked and newDisplayString (UTF-8 up to its first zero
+// byte, a number as its text) into outs. A value that is no table answers false. Fields run
+// their __index and a number's conversion may raise: call it inside a protected frame.
+bool ReadCmdAnswer(lua_State* L, int index,
+                   const vex::uisupport::UnifiedDispatchBase::EnableOuts* outs);
+
 // Checks the table at index, takes a reference to it and adds a new attachment to
 // handler, which owns it. Raises Lua's argument error for a value that is no table.
 void installAttachmentIntoHandler(lua_State* L, int index, vex::uisupport::CommandHandler* handler);

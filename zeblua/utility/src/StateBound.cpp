@@ -35,7 +35,9 @@ lua_State* watchedMainThread(lua_State* L) {
     if (!L) return nullptr;
     lua_State* main = GetMainThread(L);
     if (!main) main = L;
-    return lua_cpcall(main, watchState, nullptr) == 0 ? main : nullptr;
+    if (lua_cpcall(main, watchState, nullptr) == 0) return main;
+    lua_pop(main, 1); /* the error value */
+    return nullptr;
 }
 
 }  // namespace
