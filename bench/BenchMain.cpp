@@ -55,6 +55,7 @@ int main(int argc, char** argv) {
     zebbench::RegisterMarshallingBenchmarks();
     zebbench::RegisterDrawingBenchmarks();
     zebbench::RegisterDispatchBenchmarks();
+    zebbench::RegisterTreeBenchmarks();
 
     zebbench::RatioReporter reporter(jsonPath, commit);
     benchmark::RunSpecifiedBenchmarks(&reporter);

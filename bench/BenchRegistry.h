@@ -43,5 +43,6 @@ void RegisterProxyBenchmarks();
 void RegisterMarshallingBenchmarks();
 void RegisterDrawingBenchmarks();
 void RegisterDispatchBenchmarks();
+void RegisterTreeBenchmarks();
 
 }  // namespace zebbench

@@ -123,6 +123,42 @@ end)
 zebhost.click(root, 60, 27)
 checkEqual(taken(), "node", "uiMouseEvent reaches the tree as on any node, before the rows")
 
+-- Scrolling through the scroll view: the wheel moves by rows, clicks follow the rows, and
+-- ScrollRowIntoView brings a row back.
+local small = C.NewMultiColumnTree()
+small:UI_SetLocalRectF(rect(0, 100, 100, 36))
+root:ChildPushBack(small)
+for i = 0, 3 do small:CreateAndAppendRow(nil, false, "r" .. i) end
+small:LayoutAfterAppendRow()
+local function clickedId(y)
+  zebhost.click(root, 50, 100 + y)
+  local selected = small:GetSelectedRows()[1]
+  return selected and selected:GetID()
+end
+checkEqual(clickedId(9), "r0", "the first row at the top")
+zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(mouse.kWheel, 0, 0, 50, 110, 0, -1, 0))
+checkEqual(clickedId(9), "r1", "one row further after the wheel")
+zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(mouse.kWheel, 0, 0, 50, 110, 0, -9, 0))
+checkEqual(clickedId(27), "r3", "never beyond the last row")
+small:ScrollRowIntoView(small:GetRow(0))
+checkEqual(clickedId(9), "r0", "scrolled back to the first")
+
+-- Cell text: the default size and font are the toolkit's, and a kept proxy draws nothing.
+local keptInk
+zebhost.canvas(40, 20, function(ink)
+  keptInk = ink
+  local plain = tree:MeasureStringWidth(ink, "abc")
+  check(plain > 0, "a width")
+  checkEqual(tree:MeasureStringWidth(ink, "abc", 11), plain, "the default size is 11")
+  check(tree:MeasureStringWidth(ink, "abc", 22) > plain, "a larger size is wider")
+  checkEqual(select("#", tree:DrawCellString(ink, rect(0, 0, 40, 20), "W",
+    zeblua_CreateNewRGBA(0, 0, 0, 1))), 0, "four arguments draw with the defaults")
+end)
+zebhost.clearAssertReports()
+checkEqual(select("#", tree:MeasureStringWidth(keptInk, "abc")), 0, "an ended proxy: nothing")
+checkEqual(#zebhost.assertReports(), 1, "and its report")
+zebhost.clearAssertReports()
+
 -- Colours and flags.
 tree:SetShowBorder(1)
 tree:SetDrawGridLines(true, false)

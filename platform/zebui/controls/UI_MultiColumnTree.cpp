@@ -318,6 +318,18 @@ void UI_MultiColumnTree::fitAutoResizableColumns() {
             mWidths[column] = std::max(kMinimumColumnWidth, spare / shared);
 }
 
+// The rows move down by distance (up when negative), never leaving empty space above the
+// first row or, when they overflow, below the last.
+void UI_MultiColumnTree::scrollRowsBy(float distance) {
+    const auto keep = ui::KeepNodeAlive(this);
+    const Held<UI_ScrollView> scroll = mScrollView;
+    const RectT<float> content = scroll->GetContentRectF();
+    const float lowest = std::min(0.0f, scroll->GetViewableRectF().height - content.height);
+    const float top = std::min(0.0f, std::max(lowest, content.top + distance));
+    if (top != content.top)
+        scroll->SetContentRectF(RectT<float>(content.left, top, content.width, content.height));
+}
+
 void UI_MultiColumnTree::ScrollRowIntoView(RowPtr row, bool openAncestors, int) {
     if (!inThisTree(row)) return;
     const auto keep = ui::KeepNodeAlive(this);
@@ -784,6 +796,9 @@ bool UI_MultiColumnTree::HandleRowsMouseEvent(const ui::MouseEvent& event) {
         callClick(mClickDown, row, point, flags, column);
         return true;
     }
+    case ui::kMouseAction_Wheel:
+        scrollRowsBy(static_cast<float>(event.GetMouseWheelDelta()) * mRowHeight);
+        return true;
     case ui::kMouseAction_Drag:
         if (mResizingColumn < 0) return false;
         SetColumnWidth(static_cast<unsigned int>(mResizingColumn),

@@ -55,7 +55,8 @@ class UI_ScrollView;
 // single click down function; with click count 2 the double click function; the left up
 // that ends a single click on a row calls the single click up function for the row under
 // it; a right down, or a down with control, is a context
-// click (NotifyOfRowContextMenu). Up and down arrows move a single selection.
+// click (NotifyOfRowContextMenu); the wheel scrolls by rows, a positive delta towards the
+// first. Up and down arrows move a single selection.
 //
 // Every function and notification may run code that changes the tree or drops it: the
 // tree holds itself and the rows it reports across each call.
@@ -256,6 +257,7 @@ private:
     void callClick(const RowClickCallback& callback, const RowPtr& row,
                    const zebcore::geom::PointT<float>& point, ClickFlags flags, int column);
     bool beginColumnResize(const zebcore::geom::PointT<float>& point);
+    void scrollRowsBy(float distance);
 
     zebcore::utility::Flags<unsigned int> mInitFlags;
     std::vector<RowPtr> mRows;
