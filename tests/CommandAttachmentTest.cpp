@@ -10,6 +10,7 @@
 #include "tests/LuaTestFixture.h"
 #include "vex/app/App.h"
 #include "vex/uisupport/CommandHandler.h"
+#include "vex/uisupport/SyntheticCmdMgr.h"
 #include "zeblua/uisupport/src/LuaCmdAttachment.h"
 #include "zeblua/utility/src/StateBound.h"
 
@@ -138,6 +139,26 @@ TEST_F(CommandChainTest, AnAttachmentRemovedWhileAskedIsDeletedAfterTheWalk) {
     EXPECT_EQ(view.GetAttachmentCount(), 1u);
     CommandHandlerBase::CallCommandChain(7);
     EXPECT_EQ(takeLog(), "next view") << "gone from the next walk";
+}
+
+// Synthetic numbers: each once, blocks contiguous, nothing for an empty or oversized block,
+// and only handed-out numbers count as synthetic.
+TEST(SyntheticCmdMgr, HandsOutEachNumberOnce) {
+    using vex::uisupport::SyntheticCmdMgr;
+    SyntheticCmdMgr* manager = SyntheticCmdMgr::Get();
+    const int one = manager->ReserveCmd();
+    const int block = manager->ReserveCmdRange(3);
+    const int next = manager->ReserveCmd();
+    EXPECT_GE(one, SyntheticCmdMgr::kFirstSyntheticCmd);
+    EXPECT_EQ(block, one + 1);
+    EXPECT_EQ(next, block + 3) << "the block's three numbers are its own";
+    EXPECT_EQ(manager->ReserveCmdRange(0), 0);
+    EXPECT_EQ(manager->ReserveCmdRange(-4), 0);
+    EXPECT_EQ(manager->ReserveCmdRange(SyntheticCmdMgr::kLastSyntheticCmd), 0);
+    EXPECT_EQ(manager->ReserveCmd(), next + 1) << "a refused block reserved nothing";
+    EXPECT_TRUE(manager->IsSyntheticCmdID(block + 2));
+    EXPECT_FALSE(manager->IsSyntheticCmdID(next + 2)) << "not handed out yet";
+    EXPECT_FALSE(manager->IsSyntheticCmdID(42)) << "a built-in number";
 }
 
 class CommandAttachmentTest : public LuaTest {

@@ -184,6 +184,7 @@ TEST_F(WindowFamilyTest, AClosedStateLeavesNoPopupInTheChain) {
     EXPECT_EQ(CommandHandlerBase::GetCurrentCommandHandler(), nullptr);
     EXPECT_FALSE(CommandHandlerBase::CallCommandChain(3)) << "nothing reached the closed state";
     auto* popup = dynamic_cast<LuaPopupWindow*>(held.get());
+    EXPECT_TRUE(popup->UI_SupportsInkwell() && popup->UI_WantsKeyboardFocus());
     EXPECT_FALSE(popup->UI_CloseIfPopup());
     popup->UI_ActivationChanged(0);
     const zebui::ui::KeyboardEvent event(zebui::ui::kKeyboardAction_Down, u"a",
