@@ -11,6 +11,7 @@
 #include "host/src/HostInputCodes.h"
 #include "host/src/HostNodes.h"
 #include "host/src/HostPicture.h"
+#include "host/src/HostServices.h"
 #include "host/src/HostSnapshot.h"
 #include "host/src/HostWindows.h"
 #include "host/src/HostViews.h"
@@ -79,6 +80,7 @@ void OpenHostFunctions(lua_State* L) {
     OpenHostHarness(L);
     OpenHostPicture(L);
     OpenHostSnapshot(L);
+    OpenHostServices(L);
     OpenHostDataTransfer(L);
     OpenHostCommands(L);
     OpenHostWindows(L);

@@ -2,7 +2,7 @@
 #include "zebui/controls/UI_Popup.h"
 
 #include "zebui/controls/ControlFace.h"
-#include "zebui/ui/EventLoop.h"
+#include "zebui/utility/OS_Menu.h"
 
 namespace zebui {
 namespace controls {
@@ -49,14 +49,20 @@ zebcore::geom::RectT<float> UI_Popup::GetLabelTextRect() const {
 
 void UI_Popup::UI_TrackPointer(InteractiveChangePhase phase,
                                const zebcore::geom::PointT<float>& where) {
-    if (phase == kInteractiveChange_Finish && ContainsLocalPoint(where) && !mItems.empty()) chooseFromMenu();
+    if (phase == kInteractiveChange_Finish && ContainsLocalPoint(where) && !mItems.empty())
+        chooseFromMenu();
 }
 
 void UI_Popup::chooseFromMenu() {
     const auto keep = ui::KeepNodeAlive(this);  // the menu's run may drop every other holder
-    const ui::ModalResult chosen = ui::EventLoop::Get()->RunModal();
-    if (chosen.cancelled || chosen.code < 1 || size_t(chosen.code) > mItems.size()) return;
-    const zebcore::UTF16String item = mItems[size_t(chosen.code) - 1];
+    // A native menu whose ids are the item numbers, so an answer names an item from 1.
+    const boost::intrusive_ptr<utility::OS_Menu> menu = utility::CreateOSMenu();
+    for (size_t index = 0; index < mItems.size(); ++index)
+        menu->AppendItem(mItems[index], static_cast<int>(index + 1), nullptr);
+    const int chosen = ui::UI_DoPopupMenu(menu.get(), this, face::Bounds(*this), true);
+    // The run may have run script that changed the items.
+    if (chosen < 1 || size_t(chosen) > mItems.size()) return;
+    const zebcore::UTF16String item = mItems[size_t(chosen) - 1];
     SetValueString(item, true);
 }
 
