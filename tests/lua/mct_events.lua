@@ -122,6 +122,9 @@ tree:BindZebOperation("uiMouseEvent", function(event)
 end)
 zebhost.click(root, 60, 27)
 checkEqual(taken(), "node", "uiMouseEvent reaches the tree as on any node, before the rows")
+tree:BindZebOperation("uiMouseEvent", function() return false end)
+zebhost.click(root, 60, 27)
+checkEqual(taken(), "failing | down other 60 0 1 | up other 1", "false leaves the rows the event")
 
 -- Scrolling through the scroll view: the wheel moves by rows, clicks follow the rows, and
 -- ScrollRowIntoView brings a row back.
@@ -140,8 +143,20 @@ zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(mouse.kWheel, 0, 0, 50, 
 checkEqual(clickedId(9), "r1", "one row further after the wheel")
 zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(mouse.kWheel, 0, 0, 50, 110, 0, -9, 0))
 checkEqual(clickedId(27), "r3", "never beyond the last row")
+local drawn = {}
+small:BindZebOperation("mctDrawCell", function(ink, row) drawn[#drawn + 1] = row:GetID() end)
+zebhost.draw(root)
+checkEqual(table.concat(drawn, " "), "r2 r3", "only the rows in view are drawn")
 small:ScrollRowIntoView(small:GetRow(0))
 checkEqual(clickedId(9), "r0", "scrolled back to the first")
+
+-- A resizable column's right edge follows a drag.
+tree:SetResizableColumns({ 1 })
+zebhost.drag(root, 120, 27, 150, 27)
+checkEqual(tree:GetColumnWidth(1), 150, "dragged wider")
+checkEqual(tree:GetColumnWidth(2), 100, "the other column keeps its width")
+zebhost.drag(root, 220, 27, 260, 27)
+checkEqual(tree:GetColumnWidth(2), 100, "a column that isn't resizable doesn't follow")
 
 -- Cell text: the default size and font are the toolkit's, and a kept proxy draws nothing.
 local keptInk

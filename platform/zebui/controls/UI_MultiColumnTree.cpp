@@ -651,11 +651,14 @@ void UI_MultiColumnTree::DrawRows(inkwell::Inkwell* inkwell) const {
     const float width = std::max(totalWidth(), mRowsView->UI_GetLocalRectF(false).width);
     const inkwell::ColorRGBA selection = colourOf(GetSelectionColor());
     inkwell::SurfaceInterface* surface = inkwell->GetSurface();
+    // Only the rows inside the scroll view's viewable rect are drawn.
+    const RectT<float> viewed = mScrollView->GetViewedContentRectF();
     float bottom = 0;
     for (const RowPtr& row : rows) {
         if (row->mTree != this || row->mLayoutTop < 0) continue;
         const RectT<float> line(0, row->mLayoutTop, width, mRowHeight);
         bottom = std::max(bottom, line.Bottom());
+        if (line.Bottom() <= viewed.top || line.top >= viewed.Bottom()) continue;
         if (row->mSelected)
             fillRect(inkwell, line, selection);
         else if (row->mHasBackground)

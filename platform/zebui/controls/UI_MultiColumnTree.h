@@ -44,11 +44,11 @@ class UI_ScrollView;
 // under the other, each RowHeight tall, a custom child below its row, in a rows view that
 // is the content of the tree's scroll view, which fills the tree.
 //
-// Drawing (the rows view's face): per visible row its background (the row's own colour, or
-// the selection colour when selected), then each cell through DoRequestDrawCellOfRow (the
-// cell function, or the row's cell text), the disclosure triangle of a row with children
-// in the spinner column, then grid lines. The tree's own face is DrawBackground and, when
-// asked, a border.
+// Drawing (the rows view's face): per visible row inside the scroll view's viewable rect its
+// background (the row's own colour, or the selection colour when selected), then each cell through
+// DoRequestDrawCellOfRow (the cell function, or the row's cell text), the disclosure triangle of a
+// row with children in the spinner column, then grid lines. The tree's own face is DrawBackground
+// and, when asked, a border.
 //
 // Pointer: a left down on a disclosure triangle opens or closes its row; on a row with
 // click count 1 it selects (shift or command adds to a multiple selection) and calls the

@@ -9,6 +9,7 @@
 
 #include "zeblua/ui/src/ControlMethodSupport.h"
 #include "zeblua/ui/src/LuaMultiColumnTree.h"
+#include "zeblua/ui/src/LuaMultiColumnTreeMethodSupport.h"
 #include "zeblua/ui/src/LuaMultiColumnTreeRowWrapper.h"
 #include "zeblua/ui/src/LuaMultiColumnTreeWrapper.h"
 #include "zeblua/ui/src/LuaNodeMethodSupport.h"
@@ -27,60 +28,6 @@ using RowP = Tree::RowPtr;
 std::uint32_t unsignedFlags(lua_Number value) {
     if (!std::isfinite(value) || std::fabs(value) >= 9.2e18) return 0;
     return static_cast<std::uint32_t>(static_cast<std::int64_t>(value));
-}
-
-// A wrapper of the row that find(tree) answers, nothing for none: the block is made before
-// the tree is taken (ControlNodeCast.h), so the work holds rows and raises nothing.
-template <class Find> int pushFoundRow(lua_State* L, const char* name, Find find) {
-    if (!CastControlNode<Tree>(L, 1)) return 0;
-    LuaMultiColumnTreeRowWrapper* block = NewEmptyTreeRow(L);
-    Tree* tree = CastControlNode<Tree>(L, 1);  // the allocation may have run script
-    const bool found = tree && utility::RunNative(L, name, [&] {
-                           const auto held = HoldNode(tree);
-                           return FillTreeRow(block, find(*tree));
-                       });
-    if (found) return 1;
-    lua_pop(L, 1);
-    return 0;
-}
-
-// A table of wrappers of the rows that query(tree) lists. The table and its empty wrappers
-// are made first, for as many rows as the list held then; the work fills them, and if
-// script that ran meanwhile changed the list, the rows beyond it are left out and the
-// wrappers beyond the new list are taken out, so the table has no holes.
-template <class Query> int pushRowList(lua_State* L, const char* name, Query query) {
-    Tree* tree = CastControlNode<Tree>(L, 1);
-    if (!tree) return 0;
-    const size_t count = utility::RunNative(L, name, [&] {
-        const auto held = HoldNode(tree);
-        return query(*tree).size();
-    });
-    luaL_checkstack(L, 3, "Cannot grow stack for a list of tree rows");
-    lua_createtable(L, static_cast<int>(count), 0);
-    for (size_t i = 1; i <= count; ++i) {
-        NewEmptyTreeRow(L);
-        lua_rawseti(L, -2, static_cast<int>(i));
-    }
-    tree = CastControlNode<Tree>(L, 1);
-    if (!tree) return 1; /* released meanwhile: empty wrappers */
-    utility::RunNative(L, name, [&] {
-        const auto held = HoldNode(tree);
-        const TreeRowList rows = query(*tree);
-        size_t index = 1;
-        for (const TreeRowP& row : rows) {
-            if (index > count) break;
-            lua_rawgeti(L, -1, static_cast<int>(index++));
-            auto* block = static_cast<LuaMultiColumnTreeRowWrapper*>(lua_touserdata(L, -1));
-            FillTreeRow(block, row); /* a plain row leaves its wrapper empty */
-            lua_pop(L, 1);
-        }
-        for (; index <= count; ++index) {
-            lua_pushnil(L);
-            lua_rawseti(L, -2, static_cast<int>(index)); /* an existing slot: no allocation */
-        }
-        return 0;
-    });
-    return 1;
 }
 
 // A row of the plain toolkit class is skipped with its children.
@@ -236,8 +183,8 @@ int mctGetRow(lua_State* L) {
     if (!GetControlUserData(L, 1)) return 0;
     const lua_Integer index = luaL_checkinteger(L, 2);
     if (index < 0) return 0;
-    return pushFoundRow(L, "GetRow",
-                        [&](Tree& tree) { return tree.GetRow(static_cast<unsigned int>(index)); });
+    return PushFoundTreeRow(
+        L, "GetRow", [&](Tree& tree) { return tree.GetRow(static_cast<unsigned int>(index)); });
 }
 
 // -- row = tree:GetRowById(id): depth first, parents before children, closed rows too;
@@ -246,7 +193,7 @@ int mctGetRowById(lua_State* L) {
     if (!GetControlUserData(L, 1)) return 0;
     size_t length = 0;
     const char* id = luaL_checklstring(L, 2, &length);
-    return pushFoundRow(L, "GetRowById", [&](Tree& tree) {
+    return PushFoundTreeRow(L, "GetRowById", [&](Tree& tree) {
         const unsigned int count = tree.CountRows(false);
         for (unsigned int i = 0; i < count; ++i)
             if (TreeRowP found = findById(tree.GetRow(i), id, length)) return found;
@@ -346,7 +293,7 @@ int mctIsRowVisible(lua_State* L) {
 
 int mctGetSelectedRows(lua_State* L) {
     if (!GetControlUserData(L, 1)) return 0;
-    return pushRowList(L, "GetSelectedRows", [](Tree& tree) {
+    return PushTreeRowList(L, "GetSelectedRows", [](Tree& tree) {
         TreeRowList rows;
         tree.GetSelectedRows(rows);
         return rows;
@@ -355,12 +302,12 @@ int mctGetSelectedRows(lua_State* L) {
 
 int mctGetOpenedRows(lua_State* L) {
     if (!GetControlUserData(L, 1)) return 0;
-    return pushRowList(L, "GetOpenedRows", [](Tree& tree) { return tree.GetOpenedRows(); });
+    return PushTreeRowList(L, "GetOpenedRows", [](Tree& tree) { return tree.GetOpenedRows(); });
 }
 
 int mctGetVisibleRows(lua_State* L) {
     if (!GetControlUserData(L, 1)) return 0;
-    return pushRowList(L, "GetVisibleRows", [](Tree& tree) { return tree.GetVisibleRows(); });
+    return PushTreeRowList(L, "GetVisibleRows", [](Tree& tree) { return tree.GetVisibleRows(); });
 }
 
 int mctOpenRow(lua_State* L) {
