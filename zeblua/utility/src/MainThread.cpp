@@ -76,8 +76,12 @@ bool IsRememberedMainThread(lua_State* L) {
     return false;
 }
 
+bool CachedRegistryReference::Holds(lua_State* L) const {
+    return L == sCachingThread && mGeneration == sCachingGeneration;
+}
+
 bool CachedRegistryReference::Push(lua_State* L) const {
-    if (L != sCachingThread || mGeneration != sCachingGeneration) return false;
+    if (!Holds(L)) return false;
     lua_rawgeti(L, LUA_REGISTRYINDEX, mReference);
     return true;
 }

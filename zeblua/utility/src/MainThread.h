@@ -42,6 +42,9 @@ public:
     // Pushes registry[reference] and answers true when it was kept for L in the current
     // generation; pushes nothing and answers false otherwise. Raises no Lua error.
     bool Push(lua_State* L) const;
+    // Push would answer true: what was derived from the referenced value when it was kept
+    // still holds for L.
+    bool Holds(lua_State* L) const;
     // Keeps reference for L when L is a remembered main thread; does nothing otherwise.
     // Raises no Lua error.
     void Keep(lua_State* L, int reference) const;

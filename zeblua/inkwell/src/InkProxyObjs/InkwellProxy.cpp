@@ -82,6 +82,10 @@ enum ScopeTableSlot {
 
 // A draw path reads the scope table at every scope and every proxy check.
 const utility::CachedRegistryReference sScopeTableReference;
+// The addresses of the four metatables in the scope table, taken when its reference was
+// kept: while it holds, a proxy check compares its metatable's address with these and reads
+// no table. The scope table keeps them alive, so no other table can have their addresses.
+const void* sMetatableAddresses[kScopedSurfaceMetatable + 1];
 
 // The anchor of depth's Inkwell proxy; the next slot is its surface record's.
 int anchorSlot(int depth) {
@@ -151,6 +155,11 @@ void pushExistingScopeTable(lua_State* L) {
     lua_rawgeti(L, -1, kOwnReference);
     sScopeTableReference.Keep(L, static_cast<int>(lua_tointeger(L, -1)));
     lua_pop(L, 1);
+    for (int slot = kInkwellMetatable; slot <= kScopedSurfaceMetatable; ++slot) {
+        lua_rawgeti(L, -1, slot);
+        sMetatableAddresses[slot] = lua_topointer(L, -1);
+        lua_pop(L, 1);
+    }
 }
 
 // Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
@@ -266,6 +275,33 @@ void unlistInkwell(Inkwell* inkwell) {
         sLinkedObjects.end());
 }
 
+// Whether the value at index has one of kind's two metatables of the scope table. Raises
+// no Lua error.
+bool hasScopeTableMetatable(lua_State* L, int index, DrawingKind kind) {
+    if (!lua_getmetatable(L, index)) return false;
+    const void* metatable = lua_topointer(L, -1);
+    if (!sScopeTableReference.Holds(L)) {
+        pushExistingScopeTable(L); /* takes the addresses when L can keep its reference */
+        lua_pop(L, 1);
+    }
+    bool matches = false;
+    if (sScopeTableReference.Holds(L)) {
+        matches = metatable == sMetatableAddresses[metatableSlot(kind, true)] ||
+                  metatable == sMetatableAddresses[metatableSlot(kind, false)];
+    } else {
+        pushExistingScopeTable(L); /* mt, T */
+        for (const bool scoped : {true, false}) {
+            if (!lua_istable(L, -1)) break;
+            lua_rawgeti(L, -1, metatableSlot(kind, scoped));
+            matches = matches || lua_rawequal(L, -1, -3);
+            lua_pop(L, 1);
+        }
+        lua_pop(L, 1);
+    }
+    lua_pop(L, 1);
+    return matches;
+}
+
 }  // namespace
 
 AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& argCount)
@@ -301,19 +337,7 @@ void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind) {
     const char* metatableName =
         kind == DrawingKind::kInkwell ? kZebLuaInkwellMetaTableName : kZebLuaSurfaceMetaTableName;
     void* block = lua_touserdata(L, index);
-    if (block && lua_getmetatable(L, index)) { /* mt */
-        pushExistingScopeTable(L);
-        bool matches = false;
-        if (lua_istable(L, -1)) {
-            for (const bool scoped : {true, false}) {
-                lua_rawgeti(L, -1, metatableSlot(kind, scoped));
-                matches = matches || lua_rawequal(L, -1, -3);
-                lua_pop(L, 1);
-            }
-        }
-        lua_pop(L, 2);
-        if (matches) return block;
-    }
+    if (block && hasScopeTableMetatable(L, index, kind)) return block;
     // No scope has opened in this state yet, or not one of these: the plain check decides.
     return utility::CheckProxyBlock(L, index, metatableName);
 }
