@@ -198,6 +198,33 @@ TEST_F(MultiColumnTreeTest, PlainToolkitRowsAreEmptyWrappers) {
     EXPECT_EQ(luaValue("#w:GetSelectedRows()"), "1");
     EXPECT_EQ(resultCount("w:GetSelectedRows()[1]:GetID()"), 0);
     EXPECT_EQ(resultCount("w:GetRowById('hidden')"), 0);
+    node->OpenRow(plain);
+    EXPECT_EQ(luaValue("w:GetVisibleRows()[2]:GetID()"), "hidden");
+    EXPECT_EQ(resultCount("w:GetVisibleRows()[2]:GetParentRow()"), 0);  // a plain parent
+}
+
+// A custom child lies under its row, as tall as asked, and pushes the rows below it down;
+// it is hidden while its row is.
+TEST_F(MultiColumnTreeTest, CustomChildrenTakeTheirPlaceInTheLayout) {
+    runLua(R"(
+        w = C.NewMultiColumnTree()
+        w:UI_SetLocalRectF(zeblua_CreateNewRectF32(0, 0, 100, 100))
+        a = w:CreateAndAppendRow(nil, true, 'a')
+        b = w:CreateAndAppendRow(nil, true, 'b')
+        w:SetRowHasCustomChild(a, true, 30)
+        c = w:CreateAndAppendRow(b, true, 'c')
+        w:SetRowHasCustomChild(c, true, 12)
+    )");
+    const auto node = tree("w");
+    const RowP a = node->GetRow(0), b = node->GetRow(1);
+    const zebcore::geom::RectT<float> custom = a->GetCustomChild()->UI_GetLocalRectF(false);
+    EXPECT_EQ(custom.top, 18.0f);
+    EXPECT_EQ(custom.height, 30.0f);
+    EXPECT_EQ(b->GetLayoutTop(), 48.0f);
+    EXPECT_FALSE(b->GetChildRow(0)->GetCustomChild()->UI_IsShown());
+    runLua("w:OpenRow(b)");
+    EXPECT_TRUE(b->GetChildRow(0)->GetCustomChild()->UI_IsShown());
+    EXPECT_EQ(luaValue("c:GetCustomChild():UI_GetLocalRectF().top"), "84");
 }
 
 // The list handed to the toolkit: columns less one, zero and below skipped, also empty.
