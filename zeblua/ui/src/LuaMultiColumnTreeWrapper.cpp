@@ -4,6 +4,7 @@
 #include <lua.hpp>
 
 #include "zeblua/ui/src/LuaMultiColumnTree.h"
+#include "zeblua/ui/src/LuaMultiColumnTreeDragMethods.h"
 #include "zeblua/ui/src/LuaUI_SubViewWrapper.h"
 
 namespace zeblua {
@@ -28,6 +29,7 @@ void LuaMultiColumnTreeWrapper::RegisterMethods(lua_State* L) {
     LuaUI_SubViewWrapper::RegisterMethods(L);
     luaL_register(L, nullptr, modelMethods);
     luaL_register(L, nullptr, eventMethods);
+    RegisterTreeDragMethods(L);
     luaL_checkstack(L, 1, "Cannot grow stack for the tree's names");
     for (const char* name : kOperationNameFields) {
         lua_pushstring(L, name);

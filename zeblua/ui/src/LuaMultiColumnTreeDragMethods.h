@@ -1,0 +1,18 @@
+// The tree's methods that move rows: sorting by a script's comparison, and the drop
+// action constants a script reads off any tree.
+#pragma once
+
+struct lua_State;
+
+namespace zeblua {
+namespace ui {
+
+// The operation name under which a tree keeps its sorting function among its bound
+// functions; it has no toolkit callback of its own.
+constexpr const char* kMCTRowSortingFunction = "mctRowSortingFunction";
+
+// Adds the methods and the kDropAction_... constants to the tree's metatable on top.
+void RegisterTreeDragMethods(lua_State* L);
+
+}  // namespace ui
+}  // namespace zeblua
