@@ -225,6 +225,10 @@ TEST_F(MultiColumnTreeTest, CustomChildrenTakeTheirPlaceInTheLayout) {
     runLua("w:OpenRow(b)");
     EXPECT_TRUE(b->GetChildRow(0)->GetCustomChild()->UI_IsShown());
     EXPECT_EQ(luaValue("c:GetCustomChild():UI_GetLocalRectF().top"), "84");
+    runLua("other = C.NewMultiColumnTree(); other:SetRowHasCustomChild(a, false)");
+    EXPECT_TRUE(a->HasCustomChild());  // a row of another tree is that tree's
+    EXPECT_NE(luaError("w:CreateAndAppendRow(newproxy(), false)").find("Zeb.UI_MultiColumnTreeRow"),
+              std::string::npos);  // any userdata must be a row
 }
 
 // The list handed to the toolkit: columns less one, zero and below skipped, also empty.

@@ -473,8 +473,10 @@ float UI_MultiColumnTree::GetOpenedRowsFirstColumnMinWidth() const {
     return width;
 }
 
+// A row of another tree is left to that tree; a detached row keeps its custom child for
+// when it is added again.
 void UI_MultiColumnTree::SetRowHasCustomChild(RowPtr row, bool has, float height) {
-    if (!row) return;
+    if (!row || (row->mTree && row->mTree != this)) return;
     if (row->mCustomChild && row->mTree == this) mRowsView->ChildRemove(row->mCustomChild);
     row->mCustomChild.reset();
     row->mCustomChildHeight = 0;

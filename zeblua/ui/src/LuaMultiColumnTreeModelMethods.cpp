@@ -358,7 +358,7 @@ int mctGetScrollView(lua_State* L) {
 // userdata; the height is 0 unless the stack holds it.
 int mctSetRowHasCustomChild(lua_State* L) {
     if (!GetControlUserData(L, 1)) return 0;
-    if (lua_type(L, 2) != LUA_TUSERDATA) return 0;
+    if (!lua_isuserdata(L, 2)) return 0;
     CheckTreeRow(L, 2);
     const bool flag = lua_toboolean(L, 3) != 0;
     const float height = lua_gettop(L) > 3 ? static_cast<float>(luaL_checknumber(L, 4)) : 0.0f;

@@ -227,7 +227,7 @@ LuaMultiColumnTreeRow* CheckTreeRow(lua_State* L, int index) {
 }
 
 LuaMultiColumnTreeRow* OptionalTreeRow(lua_State* L, int index) {
-    return lua_type(L, index) == LUA_TUSERDATA ? CheckTreeRow(L, index) : nullptr;
+    return lua_isuserdata(L, index) ? CheckTreeRow(L, index) : nullptr;
 }
 
 LuaMultiColumnTreeRowWrapper* NewEmptyTreeRow(lua_State* L) {
