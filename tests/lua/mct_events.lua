@@ -46,8 +46,8 @@ end)
 tree:BindZebOperation("mctRowDisclosureChanged", function(row, open)
   record("disclosure " .. row:GetID() .. " " .. tostring(open))
 end)
-tree:BindZebOperation("mctRowVisibilityChanged", function(row)
-  record("visible " .. row:GetID() .. " " .. tostring(tree:IsRowVisible(row)))
+tree:BindZebOperation("mctRowVisibilityChanged", function(row, ...)
+  record("visible " .. row:GetID() .. " " .. tostring(tree:IsRowVisible(row)) .. select("#", ...))
 end)
 
 -- A click on a row selects it: a one-row table, then the click with column 1.
@@ -59,13 +59,13 @@ checkEqual(taken(), "sel 1 other | down other 150 1 2 | up other 2", "column 2, 
 
 -- The disclosure triangle opens the row: the disclosure, then the child becomes visible.
 zebhost.click(root, 6, 9)
-checkEqual(taken(), "disclosure parent true | visible kid true", "opened by its triangle")
+checkEqual(taken(), "disclosure parent true | visible kid true0", "opened by its triangle")
 check(tree:IsRowOpen(parent) and tree:IsRowVisible(kid), "open")
 -- The child now lies at 18, indented.
 zebhost.click(root, 60, 27)
 checkEqual(taken(), "sel 1 kid | down kid 60 0 1 | up kid 1", "the child row")
 zebhost.click(root, 6, 9)
-checkEqual(taken(), "disclosure parent false | visible kid false", "closed again")
+checkEqual(taken(), "disclosure parent false | visible kid false0", "closed again")
 
 -- A double click arrives as such.
 local function press(action, x, y, clicks, button)

@@ -31,13 +31,14 @@ struct TreeCall {
     zebui::inkwell::Inkwell* inkwell;
     lua_Number number;
     unsigned int column;
+    bool hasFlag;  // the disclosure's open state follows the row
     bool flag;
     bool result;
 };
 
 TreeCall newCall(const LuaFunctionEntry& entry) {
     return TreeCall{entry.reference, nullptr, nullptr, nullptr, nullptr, nullptr,
-                    nullptr,         0,       0,       false,   false};
+                    nullptr,         0,       0,       false,   false,   false};
 }
 
 // The call's frame starts empty, with the function on it.
@@ -75,7 +76,7 @@ int protectedRowNotify(lua_State* L) {
         nargs += inkwell::PushPointF32ToLua(L, *call->point);
         lua_pushnumber(L, call->number);
         nargs += 1 + pushColumn(L, call->column);
-    } else if (call->number != 0) {
+    } else if (call->hasFlag) {
         lua_pushboolean(L, call->flag);
         ++nargs;
     }
@@ -137,7 +138,7 @@ void CallTreeRowVisibility(const LuaFunctionEntry& entry, const TreeRowP& row) {
 void CallTreeRowDisclosure(const LuaFunctionEntry& entry, const TreeRowP& row, bool open) {
     TreeCall call = newCall(entry);
     call.row = &row;
-    call.number = 1; /* the flag is an argument */
+    call.hasFlag = true;
     call.flag = open;
     run(entry, call, protectedRowNotify, false);
 }
