@@ -265,4 +265,41 @@ TEST_F(AllocationFailureTest, ControlConstructorsLeaveNothingBehind) {
     EXPECT_EQ(leaks(), 0);
 }
 
+TEST_F(AllocationFailureTest, ServicesLeaveNothingBehind) {
+    runLua(R"(
+        require "zeblua.uisupport.Alert"; require "zeblua.OSMenu"
+        require "zeblua.zebMonitorInfo"; require "zeblua.OSLaunchUtils"; require "zeblua.zebTheme"
+        require "zeblua.zebcontrols"
+        local menu, sub = OSMenu.CreateOSMenu(), OSMenu.CreateOSMenu()
+        menu:AppendItem("item", 5, sub)
+        local button = zebcontrols.NewTextButton()
+        local info = zebMonitorInfo.NewMonitorInfo()
+        local url = "https://example.org/" .. string.rep("x", 40)
+        -- Nobody answers: every modal run ends cancelled, as a dismissed box or menu.
+        problems = sweep({
+            CreateOSMenu = function() keep(OSMenu.CreateOSMenu()) end,
+            GetItemSubMenu = function() keep(menu:GetItemSubMenu(0)) end,
+            AppendItem = function() sub:AppendItem(long, 7) end,
+            UI_DoPopupMenu = function() OSMenu.UI_DoPopupMenu(menu, button, {0, 0, 5, 5}) end,
+            ToString = function() return tostring(menu) end,
+            ShowNote = function() Alert.ShowNote(long, long .. "!") end,
+            Show = function() return Alert.Show(1, 2, long, long .. "?") end,
+            SimpleInputBox = function() return Alert.SimpleInputBox(long, long, long .. "..") end,
+            NewMonitorInfo = function() local i = zebMonitorInfo.NewMonitorInfo() end,
+            GetMonitorRect = function() return info:GetMonitorRect(1) end,
+            OpenURL = function() OSLaunchUtils.OpenURLInDefaultBrowser(url) end,
+            GetColor = function() return Theme.GetColor(277) end,
+            GetFontName = function() return Theme.GetFontName(0) end,
+            NewTheme = function() keep(Theme.NewTheme()) end,
+            RegisterTheme = function() Theme.RegisterTheme(kept[1] or Theme.NewTheme(), long) end,
+        })
+        menu:Release(); sub:Release(); button:Release()
+        releaseKept()
+    )");
+    EXPECT_EQ(luaValue("problems"), "");
+    EXPECT_EQ(luaValue("swept"), "13");
+    collectGarbage();
+    EXPECT_EQ(leaks(), 0);
+}
+
 }  // namespace
