@@ -7,6 +7,7 @@
 #include "tests/LuaTestFixture.h"
 #include "zeblua/utility/src/LuaInternedKeys.h"
 #include "zeblua/utility/src/LuaTableFields.h"
+#include "zeblua/utility/src/MainThread.h"
 
 namespace zu = zeblua::utility;
 
@@ -51,6 +52,25 @@ TEST_F(LuaInternedKeysTest, KeysAreTheStatesOwnStringsMadeOncePerState) {
     lua_rawgeti(L, keys, 5);
     EXPECT_TRUE(lua_isnil(L, -1));
     lua_pop(L, 1);
+
+    // A reference the registry lost (a resize that runs out of memory can hide its integer
+    // keys) is never trusted, on the cached path either: the table is named again.
+    zu::RecordMainThread(L);
+    sKeys.Push(L); /* keeps the reference for this main thread */
+    lua_pop(L, 1);
+    lua_rawgeti(L, keys, 4);
+    const int lost = static_cast<int>(lua_tointeger(L, -1));
+    lua_newtable(L);
+    lua_rawseti(L, LUA_REGISTRYINDEX, lost); /* registry[lost] = another table */
+    lua_pop(L, 1);
+    EXPECT_TRUE(lua_rawequal(L, keys, sKeys.Push(L)));
+    lua_rawgeti(L, keys, 4);
+    const int renamed = static_cast<int>(lua_tointeger(L, -1));
+    EXPECT_NE(renamed, lost);
+    lua_rawgeti(L, LUA_REGISTRYINDEX, renamed);
+    EXPECT_TRUE(lua_rawequal(L, keys, -1));
+    EXPECT_TRUE(lua_rawequal(L, keys, sKeys.Push(L))) << "the new reference, cached";
+    lua_settop(L, 2);
 
     // Another state has its own table, not a stale reference into this one.
     lua_State* other = luaL_newstate();

@@ -3,6 +3,8 @@
 
 #include <lua.hpp>
 
+#include "zeblua/utility/src/RegistryTables.h"
+
 namespace zeblua {
 namespace utility {
 
@@ -21,16 +23,11 @@ int InternedKeys::Push(lua_State* L) const {
             lua_pushstring(L, mNames[i]);
             lua_rawseti(L, -2, i + 1);
         }
-        lua_pushvalue(L, -1);
-        lua_pushinteger(L, luaL_ref(L, LUA_REGISTRYINDEX));
-        lua_rawseti(L, -2, mCount + 1); /* keys[count + 1] = its own reference */
         lua_pushlightuserdata(L, registryKey);
         lua_pushvalue(L, -2);
         lua_rawset(L, LUA_REGISTRYINDEX); /* registry[this] = keys */
     }
-    lua_rawgeti(L, -1, mCount + 1);
-    mReference.Keep(L, static_cast<int>(lua_tointeger(L, -1)));
-    lua_pop(L, 1);
+    mReference.Keep(L, SelfReference(L, -1, mCount + 1)); /* keys[count + 1] */
     return lua_gettop(L);
 }
 

@@ -26,7 +26,8 @@ public:
     InternedKeys& operator=(const InternedKeys&) = delete;
 
     // Pushes the key table, names[i] at i + 1, and returns its absolute index. Can raise
-    // a memory error only on the first call in a state, which makes the table.
+    // a memory error only on the first call in a state, which makes the table, or when the
+    // registry has lost the table's reference (see SelfReference).
     int Push(lua_State* L) const;
 
 private:

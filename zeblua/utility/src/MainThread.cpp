@@ -83,15 +83,24 @@ bool CachedRegistryReference::Holds(lua_State* L) const {
 bool CachedRegistryReference::Push(lua_State* L) const {
     if (!Holds(L)) return false;
     lua_rawgeti(L, LUA_REGISTRYINDEX, mReference);
-    return true;
+    if (lua_topointer(L, -1) == mAddress) return true;
+    lua_pop(L, 1);
+    return false;
 }
 
 void CachedRegistryReference::Keep(lua_State* L, int reference) const {
+    if (reference <= 0) {
+        mGeneration = 0; /* sCachingGeneration is never 0 while a thread is kept */
+        return;
+    }
     if (L != sCachingThread) {
         if (!IsRememberedMainThread(L)) return;
         sCachingThread = L;
         ++sCachingGeneration;
     }
+    lua_rawgeti(L, LUA_REGISTRYINDEX, reference);
+    mAddress = lua_topointer(L, -1);
+    lua_pop(L, 1);
     mReference = reference;
     mGeneration = sCachingGeneration;
 }

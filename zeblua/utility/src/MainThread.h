@@ -40,17 +40,21 @@ public:
     CachedRegistryReference& operator=(const CachedRegistryReference&) = delete;
 
     // Pushes registry[reference] and answers true when it was kept for L in the current
-    // generation; pushes nothing and answers false otherwise. Raises no Lua error.
+    // generation and the registry still holds there the value it held when kept (Lua 5.1
+    // can lose integer keys of a table whose resize ran out of memory); pushes nothing and
+    // answers false otherwise. Raises no Lua error.
     bool Push(lua_State* L) const;
     // Push would answer true: what was derived from the referenced value when it was kept
     // still holds for L.
     bool Holds(lua_State* L) const;
-    // Keeps reference for L when L is a remembered main thread; does nothing otherwise.
+    // Keeps reference, and the address of the value the registry holds under it, for L when
+    // L is a remembered main thread; forgets any kept one when reference is LUA_NOREF.
     // Raises no Lua error.
     void Keep(lua_State* L, int reference) const;
 
 private:
     mutable int mReference = 0;
+    mutable const void* mAddress = nullptr;
     mutable unsigned long long mGeneration = 0;
 };
 

@@ -38,6 +38,29 @@ void PushOrMakeRegistryTable(lua_State* L, const void* key, const char* mode,
     lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = table */
 }
 
+int HeldSelfReference(lua_State* L, int tableIndex, int slot) {
+    if (tableIndex < 0) tableIndex = lua_gettop(L) + tableIndex + 1;
+    lua_rawgeti(L, tableIndex, slot);
+    const int reference = lua_isnumber(L, -1) ? static_cast<int>(lua_tointeger(L, -1)) : 0;
+    lua_pop(L, 1);
+    if (reference <= 0) return LUA_NOREF;
+    lua_rawgeti(L, LUA_REGISTRYINDEX, reference);
+    const bool held = lua_rawequal(L, -1, tableIndex) != 0;
+    lua_pop(L, 1);
+    return held ? reference : LUA_NOREF;
+}
+
+int SelfReference(lua_State* L, int tableIndex, int slot) {
+    if (tableIndex < 0) tableIndex = lua_gettop(L) + tableIndex + 1;
+    const int held = HeldSelfReference(L, tableIndex, slot);
+    if (held != LUA_NOREF) return held;
+    lua_pushvalue(L, tableIndex);
+    const int reference = luaL_ref(L, LUA_REGISTRYINDEX);
+    lua_pushinteger(L, reference);
+    lua_rawseti(L, tableIndex, slot);
+    return reference;
+}
+
 void ClearPresentField(lua_State* L, int tableIndex) {
     lua_pushvalue(L, -1);
     lua_rawget(L, tableIndex); /* key, value */

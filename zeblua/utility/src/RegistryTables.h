@@ -21,6 +21,17 @@ void PushRegistryTable(lua_State* L, const void* key);
 void PushOrMakeRegistryTable(lua_State* L, const void* key, const char* mode,
                              int (*onClose)(lua_State*));
 
+// A table that names itself in the registry by an integer reference keeps it at
+// table[slot]. Lua 5.1 can lose sight of integer keys of a table whose resize ran out of
+// memory, the registry's among them, so such a reference is checked before it is trusted.
+// HeldSelfReference: the reference, when the registry still holds the table at tableIndex
+// under it; else LUA_NOREF. Raises no Lua error.
+int HeldSelfReference(lua_State* L, int tableIndex, int slot);
+// SelfReference: the held reference, or a new one stored at table[slot] (an array slot the
+// table already has, so storing it allocates nothing). Raises a memory error only when it
+// makes one.
+int SelfReference(lua_State* L, int tableIndex, int slot);
+
 // Pops a key and clears that field of the table at tableIndex (absolute) if it is set.
 // Setting nil on a present key never allocates; on an absent one it could.
 void ClearPresentField(lua_State* L, int tableIndex);

@@ -25,8 +25,10 @@ namespace inkwell {
 namespace {
 
 using utility::ClearPresentField;
+using utility::HeldSelfReference;
 using utility::PushOrMakeRegistryTable;
 using utility::PushRegistryTable;
+using utility::SelfReference;
 using zebui::inkwell::Inkwell;
 using zebui::inkwell::SurfaceInterface;
 
@@ -152,9 +154,7 @@ void pushExistingScopeTable(lua_State* L) {
     if (sScopeTableReference.Push(L)) return;
     PushRegistryTable(L, &sScopeTableKey);
     if (!lua_istable(L, -1)) return;
-    lua_rawgeti(L, -1, kOwnReference);
-    sScopeTableReference.Keep(L, static_cast<int>(lua_tointeger(L, -1)));
-    lua_pop(L, 1);
+    sScopeTableReference.Keep(L, HeldSelfReference(L, -1, kOwnReference));
     for (int slot = kInkwellMetatable; slot <= kScopedSurfaceMetatable; ++slot) {
         lua_rawgeti(L, -1, slot);
         sMetatableAddresses[slot] = lua_topointer(L, -1);
@@ -175,13 +175,11 @@ int pushScopeTable(lua_State* L) {
         // Named in the registry only once whole, with the sentinel of its anchors.
         PushOrMakeRegistryTable(L, &sScopeAnchorsKey, nullptr, unlistAnchoredRecords);
         lua_pop(L, 1);
-        lua_pushvalue(L, -1);
-        lua_pushinteger(L, luaL_ref(L, LUA_REGISTRYINDEX));
-        lua_rawseti(L, -2, kOwnReference);
         lua_pushlightuserdata(L, &sScopeTableKey);
         lua_pushvalue(L, -2);
         lua_rawset(L, LUA_REGISTRYINDEX); /* registry[key] = T */
     }
+    if (!sScopeTableReference.Holds(L)) SelfReference(L, -1, kOwnReference); /* T[own] */
     return lua_gettop(L);
 }
 
