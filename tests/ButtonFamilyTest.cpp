@@ -89,14 +89,6 @@ TEST_F(ButtonFamilyTest, ReleasedAndEndedWrappersAnswerNothing) {
     EXPECT_TRUE(zebcore::debug::RecordedAssertReports().empty());
 }
 
-// row.call with its method taken from w and called on self: "w.Name(self, args)".
-std::string callOn(const MethodRow& row, const char* self) {
-    const std::string call = row.call;
-    const size_t open = call.find('(');
-    const std::string args = call.substr(open + 1);
-    return "w." + call.substr(2, open - 2) + "(" + self + (args == ")" ? "" : ", ") + args;
-}
-
 // A wrapper of another family is the conversion error for every typed row, once its
 // arguments are read; a table is "Bad user data".
 TEST_F(ButtonFamilyTest, EveryRowCastsItsNode) {
@@ -104,9 +96,9 @@ TEST_F(ButtonFamilyTest, EveryRowCastsItsNode) {
     for (const MethodRow& row : kMethodRows) {
         SCOPED_TRACE(row.call);
         runLua(std::string("w = ") + row.maker);
-        EXPECT_NE(luaError(callOn(row, "knob")).find("Invalid type conversion."),
+        EXPECT_NE(luaError(MethodCallOn(row.call, "knob")).find("Invalid type conversion."),
                   std::string::npos);
-        EXPECT_NE(luaError(callOn(row, "{}")).find("Bad user data"), std::string::npos);
+        EXPECT_NE(luaError(MethodCallOn(row.call, "{}")).find("Bad user data"), std::string::npos);
     }
     zebcore::debug::ClearRecordedAssertReports();
 }

@@ -67,6 +67,12 @@ int LuaTest::resultCount(const std::string& expression) {
     return std::stoi(luaValue("select('#', " + expression + ")"));
 }
 
+std::string MethodCallOn(const std::string& call, const char* self) {
+    const size_t open = call.find('(');
+    const std::string args = call.substr(open + 1);
+    return "w." + call.substr(2, open - 2) + "(" + self + (args == ")" ? "" : ", ") + args;
+}
+
 void LuaTest::collectGarbage() {
     lua_gc(L, LUA_GCCOLLECT, 0);
 }

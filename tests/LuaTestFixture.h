@@ -25,3 +25,7 @@ protected:
 
     lua_State* L = nullptr;
 };
+
+// A method call row of a family's fault table, "w:Name(args)", as "w.Name(self, args)": the
+// method taken from w and called on another self.
+std::string MethodCallOn(const std::string& call, const char* self);

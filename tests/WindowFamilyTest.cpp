@@ -93,13 +93,6 @@ TEST_F(WindowFamilyTest, ReleasedAndEndedWrappersAnswerNothing) {
     EXPECT_TRUE(zebcore::debug::RecordedAssertReports().empty());
 }
 
-std::string callOn(const MethodRow& row, const char* self) {
-    const std::string call = row.call;
-    const size_t open = call.find('(');
-    const std::string args = call.substr(open + 1);
-    return "w." + call.substr(2, open - 2) + "(" + self + (args == ")" ? "" : ", ") + args;
-}
-
 // A wrapper of a plain view is the conversion error for every row, a table "Bad user data";
 // a dialog's rows on a popup and the popup's rows on a dialog are conversion errors too.
 TEST_F(WindowFamilyTest, EveryRowCastsItsNode) {
@@ -107,9 +100,9 @@ TEST_F(WindowFamilyTest, EveryRowCastsItsNode) {
     for (const MethodRow& row : kMethodRows) {
         SCOPED_TRACE(row.call);
         runLua(std::string("w = ") + row.maker);
-        EXPECT_NE(luaError(callOn(row, "view")).find("Invalid type conversion."),
+        EXPECT_NE(luaError(MethodCallOn(row.call, "view")).find("Invalid type conversion."),
                   std::string::npos);
-        EXPECT_NE(luaError(callOn(row, "{}")).find("Bad user data"), std::string::npos);
+        EXPECT_NE(luaError(MethodCallOn(row.call, "{}")).find("Bad user data"), std::string::npos);
     }
     EXPECT_NE(luaError("dialog.RunModal(popup)").find("Invalid type conversion."),
               std::string::npos);
