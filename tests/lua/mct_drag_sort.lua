@@ -140,6 +140,26 @@ checkEqual(seen["new"], 1, "the added row is there once")
 checkEqual(seen["3"], 1, "the others once")
 checkEqual(tree:CountRows(false), 4, "four top-level rows")
 
+-- A comparison that installs another function hands the rest of the sort to it.
+fill()
+local replacedCalls = 0
+tree:SetRowSortingFunction(function()
+  tree:SetRowSortingFunction(function(a, b)
+    replacedCalls = replacedCalls + 1
+    return tonumber(a:GetID()) > tonumber(b:GetID())
+  end)
+  return false
+end)
+tree:SortTree()
+check(replacedCalls > 0, "the new function took over")
+checkEveryRowOnce("replaced mid-sort")
+checkEqual(level(tree:GetRow(0)), (function()
+  local ids = {}
+  for index = 0, 2 do ids[#ids + 1] = tree:GetRow(0):GetChildRow(index):GetID() end
+  table.sort(ids, function(x, y) return tonumber(x) > tonumber(y) end)
+  return table.concat(ids, " ")
+end)(), "later levels sorted by the new function")
+
 -- A tree that the comparison releases and drops is held for the sort.
 fill()
 local dropped = zebcontrols.NewMultiColumnTree()

@@ -758,6 +758,7 @@ bool UI_MultiColumnTree::beginColumnResize(const PointT<float>& point) {
 // Each function may run script that drops the tree or its rows: the caller holds the tree,
 // and the function objects and rows are copies.
 bool UI_MultiColumnTree::HandleRowsMouseEvent(const ui::MouseEvent& event) {
+    if (HandleRowDragEvent(event)) return true;
     const PointT<float> point = event.GetPosition();
     const ClickFlags flags(event.GetModKey().GetValue());
     const bool context = event.GetButton() == ui::kMouseButton_Right ||

@@ -11,6 +11,7 @@
 #include "zebcore/geom/RectT.h"
 #include "zebcore/utility/Flags.h"
 #include "zebcore/utility/Strings.h"
+#include "zebui/controls/UI_MultiColumnTreeDragSupport.h"
 #include "zebui/controls/UI_MultiColumnTreeRow.h"
 #include "zebui/inkwell/ColorRGBA.h"
 #include "zebui/inkwell/InkwellTypes.h"
@@ -60,7 +61,7 @@ class UI_ScrollView;
 //
 // Every function and notification may run code that changes the tree or drops it: the
 // tree holds itself and the rows it reports across each call.
-class UI_MultiColumnTree : public ui::UI_SubView {
+class UI_MultiColumnTree : public ui::UI_SubView, public UI_MultiColumnTreeDragSupport {
 public:
     using RowPtr = boost::intrusive_ptr<UI_MultiColumnTreeRow>;
     using RowList = std::list<RowPtr>;

@@ -6,6 +6,7 @@
 #include <boost/make_shared.hpp>
 
 #include "zeblua/ui/src/LuaMultiColumnTreeCalls.h"
+#include "zeblua/ui/src/LuaMultiColumnTreeDragMethods.h"
 #include "zebui/inkwell/BrushInterface.h"
 #include "zebui/inkwell/Inkwell.h"
 #include "zebui/inkwell/PathInterface.h"
@@ -51,6 +52,8 @@ void LuaMultiColumnTree::installCallback(const std::string& name) {
     } else if (name == kMCTRowDoubleClick) {
         SetRowDoubleClickedCallback(boost::make_shared<RowClickCallback::element_type>(
             boost::bind(&Self::OnRowDoubleClick, this, _1, _2, _3, _4)));
+    } else {
+        InstallTreeDragCallback(*this, name);
     }
 }
 

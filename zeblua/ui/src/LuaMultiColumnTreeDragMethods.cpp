@@ -1,15 +1,27 @@
 // The tree's sorting by a script's comparison, and its drop action constants.
 #include "zeblua/ui/src/LuaMultiColumnTreeDragMethods.h"
 
+#include <string>
+#include <vector>
+
 #include <boost/bind/bind.hpp>
+#include <boost/make_shared.hpp>
 #include <lua.hpp>
 
+#include "zebcore/debug/Debug.h"
+#include "zeblua/datatransfer/LuaOSReceiveData.h"
+#include "zeblua/inkwell/src/LuaInkwellTypeUtils.h"
 #include "zeblua/ui/src/ControlNodeCast.h"
+#include "zeblua/ui/src/LuaControlWrapperBase.h"
+#include "zeblua/ui/src/LuaInputEvents.h"
 #include "zeblua/ui/src/LuaMultiColumnTree.h"
+#include "zeblua/ui/src/LuaMultiColumnTreeMethodSupport.h"
 #include "zeblua/ui/src/LuaMultiColumnTreeRowWrapper.h"
+#include "zeblua/ui/src/LuaNodeMethodSupport.h"
 #include "zeblua/utility/src/LuaModule.h"
 #include "zeblua/utility/src/RunNative.h"
 #include "zebui/controls/MultiColumnTreeSort.h"
+#include "zebui/datatransfer/OS_ReceiveData.h"
 
 namespace zeblua {
 namespace ui {
@@ -17,6 +29,9 @@ namespace {
 
 using Tree = LuaMultiColumnTree;
 using zebui::controls::UI_MultiColumnTreeRow;
+using DropSupportData = zebui::controls::UI_MultiColumnTreeDragSupport::DropSupportData;
+using DropAction = zebui::controls::UI_MultiColumnTreeDragSupport::DropAction;
+using datatransfer::OSReceiveDataProxy;
 
 // One comparison, handed to the protected call: the rows are held by the caller's frame,
 // which a memory error inside the call never leaves.
@@ -41,9 +56,12 @@ int protectedCompare(lua_State* L) {
 }
 
 // The toolkit's comparison: new row wrappers each time, a first and a second, on the main
-// thread the function was bound on; the stack is left as found.
-bool myRowSortingFunction(UI_MultiColumnTreeRow* a, UI_MultiColumnTreeRow* b, lua_State* L,
-                          int reference) {
+// thread the function was bound on; the stack is left as found. The function is looked up
+// at each comparison, so one that a comparison replaced is never called again.
+bool myRowSortingFunction(UI_MultiColumnTreeRow* a, UI_MultiColumnTreeRow* b, Tree* tree) {
+    lua_State* L = tree->GetZEBBoundLuaState(kMCTRowSortingFunction);
+    const int reference = tree->GetZEBBoundFunctionIndex(kMCTRowSortingFunction);
+    if (!L || reference < 1) return false;
     const TreeRowP first(a);
     const TreeRowP second(b);
     Comparison comparison{reference, &first, &second, false};
@@ -51,6 +69,157 @@ bool myRowSortingFunction(UI_MultiColumnTreeRow* a, UI_MultiColumnTreeRow* b, lu
     const bool called = lua_cpcall(L, protectedCompare, &comparison) == 0;
     lua_settop(L, top);
     return called && comparison.firstBeforeSecond;
+}
+
+// -- tree:SetAllowRowDragging(value) and the three other switches: lua_toboolean of 2.
+template <void (zebui::controls::UI_MultiColumnTreeDragSupport::*Set)(bool)>
+int mctSetDragSwitch(lua_State* L) {
+    const bool value = lua_toboolean(L, 2) != 0;
+    return CallOnControl<Tree>(L, "SetDragSwitch", [&](Tree& tree) { (tree.*Set)(value); });
+}
+
+// -- tree:SetRowsDraggedDataType(type)
+// The type ends at its first zero byte.
+int mctSetRowsDraggedDataType(lua_State* L) {
+    if (!GetControlUserData(L, 1)) return 0;
+    const char* type = luaL_checklstring(L, 2, nullptr);
+    return CallOnControl<Tree>(L, "SetRowsDraggedDataType", [&](Tree& tree) {
+        tree.SetRowsDraggedDataType(zebcore::utility::UTF8to16(type));
+    });
+}
+
+// The receive data of argument 2, or null after the report for an empty proxy.
+zebui::datatransfer::OS_ReceiveDataBase* dragData(OSReceiveDataProxy* proxy) {
+    if (!proxy->object) ZEB_ASSERT(0 && "out of scope OS_ReceiveData");
+    return proxy->object;
+}
+
+// -- available = tree:HasRowDragDataFlavor(data)
+int mctHasRowDragDataFlavor(lua_State* L) {
+    bool available = false;
+    if (GetControlUserData(L, 1)) {
+        OSReceiveDataProxy* proxy = datatransfer::zeblua_checkOSReceiveData(L, 2);
+        Tree* tree = CastControlNode<Tree>(L, 1);
+        zebui::datatransfer::OS_ReceiveDataBase* data = tree ? dragData(proxy) : nullptr;
+        available = data && utility::RunNative(L, "HasRowDragDataFlavor", [&] {
+                        const auto held = HoldNode(tree);
+                        return data->DataAvailable(tree->GetRowsDraggedDataType());
+                    });
+    }
+    lua_pushboolean(L, available);
+    return 1;
+}
+
+// -- rows = tree:GetRowsBeingDragged(data)
+// The rows of this tree's own drag that are still in it, as a table from 1.
+int mctGetRowsBeingDragged(lua_State* L) {
+    if (!GetControlUserData(L, 1)) return 0;
+    OSReceiveDataProxy* proxy = datatransfer::zeblua_checkOSReceiveData(L, 2);
+    if (!CastControlNode<Tree>(L, 1) || !dragData(proxy)) return 0;
+    return PushTreeRowList(L, "GetRowsBeingDragged", [proxy](Tree& tree) {
+        TreeRowList rows;
+        if (!proxy->object) return rows; /* emptied by script that ran meanwhile */
+        std::vector<unsigned char> bytes;
+        proxy->object->GetRawData(tree.GetRowsDraggedDataType(), bytes);
+        std::vector<UI_MultiColumnTreeRow*> found;
+        tree.GetRowsBeingDragged(bytes, found);
+        rows.assign(found.begin(), found.end());
+        return rows;
+    });
+}
+
+// "mctSelectedRowsBeingDragged": the mouse event; one result as a boolean, so a failure,
+// whose message is a true value, answers true.
+struct DragQuestion {
+    int reference;
+    const zebui::ui::MouseEvent* event;
+    bool answer;
+};
+
+int protectedRowsBeingDragged(lua_State* L) {
+    DragQuestion* question = static_cast<DragQuestion*>(lua_touserdata(L, 1));
+    lua_settop(L, 0);
+    luaL_checkstack(L, 4, "Cannot grow stack for a tree callback");
+    lua_rawgeti(L, LUA_REGISTRYINDEX, question->reference);
+    PushMouseEventToLua(L, *question->event);
+    lua_pcall(L, 1, 1, 0);
+    question->answer = lua_toboolean(L, -1) != 0;
+    return 0;
+}
+
+bool onSelectedRowsBeingDragged(Tree* tree, const zebui::ui::MouseEvent& event) {
+    lua_State* L = tree->GetZEBBoundLuaState(kMCTSelectedRowsBeingDragged);
+    const int reference = tree->GetZEBBoundFunctionIndex(kMCTSelectedRowsBeingDragged);
+    if (!L || reference < 1) return false;
+    const auto held = HoldNode(tree);
+    DragQuestion question{reference, &event, false};
+    const int top = lua_gettop(L);
+    lua_cpcall(L, protectedRowsBeingDragged, &question);
+    lua_settop(L, top);
+    return question.answer;
+}
+
+// "mctDropSupport": the action, then for a drag's data the point, a receive data proxy
+// that lends the data and is emptied as soon as the call returns, the row or nil and the
+// drop position; two results, the first the answer, the second a table whose isDropValid
+// and dropEffect fields are the drop's. The proxy never owns the data, so a proxy that a
+// failed push left behind frees nothing when it is collected.
+struct DropQuestion {
+    int reference;
+    int action;
+    DropSupportData* data;
+    const TreeRowP* row;
+    bool answer;
+};
+
+int protectedDropSupport(lua_State* L) {
+    DropQuestion* question = static_cast<DropQuestion*>(lua_touserdata(L, 1));
+    lua_settop(L, 0);
+    luaL_checkstack(L, 8, "Cannot grow stack for a tree callback");
+    lua_rawgeti(L, LUA_REGISTRYINDEX, question->reference);
+    lua_pushinteger(L, question->action);
+    DropSupportData* data = question->data;
+    OSReceiveDataProxy* proxy = nullptr;
+    int nargs = 1;
+    if (data) {
+        nargs += inkwell::PushPointF32ToLua(L, data->point);
+        nargs += datatransfer::PushReceiveDataToLua(L, data->data, &proxy);
+        proxy->owned = false;
+        if (*question->row)
+            PushTreeRowWrapper(L, *question->row);
+        else
+            lua_pushnil(L);
+        lua_pushinteger(L, data->dropPosition);
+        nargs += 2;
+    }
+    const int status = lua_pcall(L, nargs, 2, 0);
+    if (proxy) datatransfer::ReleaseReceiveData(proxy);
+    if (status != 0) return 0;
+    question->answer = lua_toboolean(L, -2) != 0;
+    if (data && lua_istable(L, -1)) {
+        lua_getfield(L, -1, "isDropValid");
+        data->valid = lua_toboolean(L, -1) != 0;
+        lua_pop(L, 1);
+        if (data->dropEffect) {
+            lua_getfield(L, -1, "dropEffect");
+            *data->dropEffect = static_cast<int>(lua_tointeger(L, -1));
+            lua_pop(L, 1);
+        }
+    }
+    return 0;
+}
+
+bool onDropSupport(Tree* tree, DropAction action, DropSupportData* data) {
+    lua_State* L = tree->GetZEBBoundLuaState(kMCTDropSupport);
+    const int reference = tree->GetZEBBoundFunctionIndex(kMCTDropSupport);
+    if (!L || reference < 1) return false;
+    const auto held = HoldNode(tree);
+    const TreeRowP row(data ? data->row : nullptr);
+    DropQuestion question{reference, action, data, &row, false};
+    const int top = lua_gettop(L);
+    lua_cpcall(L, protectedDropSupport, &question);
+    lua_settop(L, top);
+    return question.answer;
 }
 
 // -- tree:SetRowSortingFunction(f)
@@ -76,17 +245,25 @@ int mctSortTree(lua_State* L) {
     if (!tree) return 0;
     return utility::RunNative(L, "SortTree", [&] {
         const auto keep = zebui::ui::KeepNodeAlive(tree);
-        lua_State* state = tree->GetZEBBoundLuaState(kMCTRowSortingFunction);
-        const int reference = tree->GetZEBBoundFunctionIndex(kMCTRowSortingFunction);
-        if (!state || reference < 1) return 0;
+        if (tree->GetZEBBoundFunctionIndex(kMCTRowSortingFunction) < 1) return 0;
         using namespace boost::placeholders;
-        zebui::controls::SortTreeRows(*tree,
-                                      boost::bind(&myRowSortingFunction, _1, _2, state, reference));
+        zebui::controls::SortTreeRows(*tree, boost::bind(&myRowSortingFunction, _1, _2, tree));
         return 0;
     });
 }
 
+using zebui::controls::UI_MultiColumnTreeDragSupport;
+
 const luaL_Reg kTreeDragMethods[] = {
+    {"SetAllowRowDragging", mctSetDragSwitch<&UI_MultiColumnTreeDragSupport::SetAllowRowDragging>},
+    {"SetAllowDropOverRows",
+     mctSetDragSwitch<&UI_MultiColumnTreeDragSupport::SetAllowDropOverRows>},
+    {"SetSupportDragOverRow",
+     mctSetDragSwitch<&UI_MultiColumnTreeDragSupport::SetSupportDragOverRow>},
+    {"ShowDragFeedback", mctSetDragSwitch<&UI_MultiColumnTreeDragSupport::ShowDragFeedback>},
+    {"SetRowsDraggedDataType", mctSetRowsDraggedDataType},
+    {"HasRowDragDataFlavor", mctHasRowDragDataFlavor},
+    {"GetRowsBeingDragged", mctGetRowsBeingDragged},
     {"SetRowSortingFunction", mctSetRowSortingFunction},
     {"SortTree", mctSortTree},
     {nullptr, nullptr},
@@ -94,12 +271,32 @@ const luaL_Reg kTreeDragMethods[] = {
 
 }  // namespace
 
+void InstallTreeDragCallback(LuaMultiColumnTree& tree, const std::string& name) {
+    using zebui::controls::UI_MultiColumnTreeDragSupport;
+    using namespace boost::placeholders;
+    if (name == kMCTSelectedRowsBeingDragged) {
+        tree.SetSelectedRowsBeingDraggedCallback(
+            boost::make_shared<
+                UI_MultiColumnTreeDragSupport::SelectedRowsBeingDraggedCallback::element_type>(
+                boost::bind(&onSelectedRowsBeingDragged, &tree, _1)));
+    } else if (name == kMCTDropSupport) {
+        tree.SetDropSupportCallback(
+            boost::make_shared<UI_MultiColumnTreeDragSupport::DropSupportCallback::element_type>(
+                boost::bind(&onDropSupport, &tree, _1, _2)));
+    }
+}
+
 void RegisterTreeDragMethods(lua_State* L) {
     luaL_register(L, nullptr, kTreeDragMethods);
-    utility::SetIntegerConstant(L, "kDropAction_DragEnter", 0);
-    utility::SetIntegerConstant(L, "kDropAction_DragOver", 1);
-    utility::SetIntegerConstant(L, "kDropAction_DragLeave", 2);
-    utility::SetIntegerConstant(L, "kDropAction_Drop", 3);
+    using zebui::controls::UI_MultiColumnTreeDragSupport;
+    utility::SetIntegerConstant(L, "kDropAction_DragEnter",
+                                UI_MultiColumnTreeDragSupport::kDropAction_DragEnter);
+    utility::SetIntegerConstant(L, "kDropAction_DragOver",
+                                UI_MultiColumnTreeDragSupport::kDropAction_DragOver);
+    utility::SetIntegerConstant(L, "kDropAction_DragLeave",
+                                UI_MultiColumnTreeDragSupport::kDropAction_DragLeave);
+    utility::SetIntegerConstant(L, "kDropAction_Drop",
+                                UI_MultiColumnTreeDragSupport::kDropAction_Drop);
 }
 
 }  // namespace ui
