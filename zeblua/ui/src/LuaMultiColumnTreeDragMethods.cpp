@@ -33,6 +33,31 @@ using DropSupportData = zebui::controls::UI_MultiColumnTreeDragSupport::DropSupp
 using DropAction = zebui::controls::UI_MultiColumnTreeDragSupport::DropAction;
 using datatransfer::OSReceiveDataProxy;
 
+// The callbacks and comparisons below run their Lua function in a protected call of their
+// own on the main thread the function was bound on, so a memory error in a push never
+// leaves a C++ frame, and leave that thread's stack as they found it. Each question
+// carries the function's reference first.
+template <class Question>
+bool askBound(Tree* tree, const char* name, lua_CFunction ask, Question& question) {
+    lua_State* L = tree->GetZEBBoundLuaState(name);
+    question.reference = tree->GetZEBBoundFunctionIndex(name);
+    if (!L || question.reference < 1) return false;
+    const auto held = HoldNode(tree);
+    const int top = lua_gettop(L);
+    const bool called = lua_cpcall(L, ask, &question) == 0;
+    lua_settop(L, top);
+    return called;
+}
+
+// The protected call's frame starts empty, with the function on it.
+template <class Question> Question* beginQuestion(lua_State* L, int slots) {
+    Question* question = static_cast<Question*>(lua_touserdata(L, 1));
+    lua_settop(L, 0);
+    luaL_checkstack(L, slots, "Cannot grow stack for a tree callback");
+    lua_rawgeti(L, LUA_REGISTRYINDEX, question->reference);
+    return question;
+}
+
 // One comparison, handed to the protected call: the rows are held by the caller's frame,
 // which a memory error inside the call never leaves.
 struct Comparison {
@@ -44,10 +69,7 @@ struct Comparison {
 
 // Only a boolean true counts: a failure, another type and false all answer false.
 int protectedCompare(lua_State* L) {
-    Comparison* comparison = static_cast<Comparison*>(lua_touserdata(L, 1));
-    lua_settop(L, 0);
-    luaL_checkstack(L, 4, "Cannot grow stack for a sorting function");
-    lua_rawgeti(L, LUA_REGISTRYINDEX, comparison->reference);
+    Comparison* comparison = beginQuestion<Comparison>(L, 4);
     PushTreeRowWrapper(L, *comparison->first);
     PushTreeRowWrapper(L, *comparison->second);
     comparison->firstBeforeSecond =
@@ -59,16 +81,11 @@ int protectedCompare(lua_State* L) {
 // thread the function was bound on; the stack is left as found. The function is looked up
 // at each comparison, so one that a comparison replaced is never called again.
 bool myRowSortingFunction(UI_MultiColumnTreeRow* a, UI_MultiColumnTreeRow* b, Tree* tree) {
-    lua_State* L = tree->GetZEBBoundLuaState(kMCTRowSortingFunction);
-    const int reference = tree->GetZEBBoundFunctionIndex(kMCTRowSortingFunction);
-    if (!L || reference < 1) return false;
     const TreeRowP first(a);
     const TreeRowP second(b);
-    Comparison comparison{reference, &first, &second, false};
-    const int top = lua_gettop(L);
-    const bool called = lua_cpcall(L, protectedCompare, &comparison) == 0;
-    lua_settop(L, top);
-    return called && comparison.firstBeforeSecond;
+    Comparison comparison{0, &first, &second, false};
+    return askBound(tree, kMCTRowSortingFunction, protectedCompare, comparison) &&
+           comparison.firstBeforeSecond;
 }
 
 // -- tree:SetAllowRowDragging(value) and the three other switches: lua_toboolean of 2.
@@ -137,10 +154,7 @@ struct DragQuestion {
 };
 
 int protectedRowsBeingDragged(lua_State* L) {
-    DragQuestion* question = static_cast<DragQuestion*>(lua_touserdata(L, 1));
-    lua_settop(L, 0);
-    luaL_checkstack(L, 4, "Cannot grow stack for a tree callback");
-    lua_rawgeti(L, LUA_REGISTRYINDEX, question->reference);
+    DragQuestion* question = beginQuestion<DragQuestion>(L, 4);
     PushMouseEventToLua(L, *question->event);
     lua_pcall(L, 1, 1, 0);
     question->answer = lua_toboolean(L, -1) != 0;
@@ -148,14 +162,8 @@ int protectedRowsBeingDragged(lua_State* L) {
 }
 
 bool onSelectedRowsBeingDragged(Tree* tree, const zebui::ui::MouseEvent& event) {
-    lua_State* L = tree->GetZEBBoundLuaState(kMCTSelectedRowsBeingDragged);
-    const int reference = tree->GetZEBBoundFunctionIndex(kMCTSelectedRowsBeingDragged);
-    if (!L || reference < 1) return false;
-    const auto held = HoldNode(tree);
-    DragQuestion question{reference, &event, false};
-    const int top = lua_gettop(L);
-    lua_cpcall(L, protectedRowsBeingDragged, &question);
-    lua_settop(L, top);
+    DragQuestion question{0, &event, false};
+    askBound(tree, kMCTSelectedRowsBeingDragged, protectedRowsBeingDragged, question);
     return question.answer;
 }
 
@@ -173,10 +181,7 @@ struct DropQuestion {
 };
 
 int protectedDropSupport(lua_State* L) {
-    DropQuestion* question = static_cast<DropQuestion*>(lua_touserdata(L, 1));
-    lua_settop(L, 0);
-    luaL_checkstack(L, 8, "Cannot grow stack for a tree callback");
-    lua_rawgeti(L, LUA_REGISTRYINDEX, question->reference);
+    DropQuestion* question = beginQuestion<DropQuestion>(L, 8);
     lua_pushinteger(L, question->action);
     DropSupportData* data = question->data;
     OSReceiveDataProxy* proxy = nullptr;
@@ -210,15 +215,9 @@ int protectedDropSupport(lua_State* L) {
 }
 
 bool onDropSupport(Tree* tree, DropAction action, DropSupportData* data) {
-    lua_State* L = tree->GetZEBBoundLuaState(kMCTDropSupport);
-    const int reference = tree->GetZEBBoundFunctionIndex(kMCTDropSupport);
-    if (!L || reference < 1) return false;
-    const auto held = HoldNode(tree);
     const TreeRowP row(data ? data->row : nullptr);
-    DropQuestion question{reference, action, data, &row, false};
-    const int top = lua_gettop(L);
-    lua_cpcall(L, protectedDropSupport, &question);
-    lua_settop(L, top);
+    DropQuestion question{0, action, data, &row, false};
+    askBound(tree, kMCTDropSupport, protectedDropSupport, question);
     return question.answer;
 }
 
