@@ -18,7 +18,8 @@ namespace zebhost {
 //   zebhost.canvas(w, h, fn [, pngPath]) -> true; fn(ink) draws (HostCanvas.h)
 // and the test harness: newNode (HostNodes.h); sendMouse, click, drag, sendKey, type,
 // assertReports, clearAssertReports (HostHarness.h); draw, compareImage (HostPicture.h);
-// snapshot (HostSnapshot.h); the views from XML hooks (HostViews.h).
+// snapshot (HostSnapshot.h); the views from XML hooks (HostViews.h); clipboard,
+// setClipboard, lastDrag, dropOn, withNativeEvent (HostDataTransfer.h).
 void OpenHostFunctions(lua_State* L);
 
 }  // namespace zebhost
