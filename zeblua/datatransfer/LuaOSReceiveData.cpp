@@ -57,7 +57,8 @@ int rdNewClipboardReceiveData(lua_State* L) {
 // -- text = proxy:__tostring()
 // Shows the data pointer, null for an empty proxy.
 int rdToString(lua_State* L) {
-    return utility::PushProxyString(L, kReceiveClass, zeblua_checkOSReceiveData(L, 1)->object);
+    return utility::PushProxyString(L, ReceiveProxy::kDisplayName,
+                                    zeblua_checkOSReceiveData(L, 1)->object);
 }
 
 // -- available = proxy:DataAvailable(type)
