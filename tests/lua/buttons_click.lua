@@ -60,6 +60,16 @@ box:SetChecked(nil)
 checkEqual(box:IsChecked(), false, "nil clears")
 checkEqual(logged(), "box", "a script's change takes the same path")
 
+-- Space on the focused box presses it as a click in its middle would: the same phases and
+-- one change. Another key is left to others and changes nothing.
+checkEqual(box:UI_GainKeyboardFocus(zebhost.focus.kProgram), true, "the box takes the focus")
+checkEqual(zebhost.sendKey({ keyCode = zebhost.keys.kSpace }):UI_GetNodeID(), "box", "Space")
+checkEqual(box:IsChecked(), true, "Space checks the box")
+checkEqual(logged(), "box:0 box box:2", "reported as a click is")
+checkEqual(zebhost.sendKey({ keyCode = zebhost.keys.kX }), nil, "another key is not taken")
+checkEqual(box:IsChecked(), true, "and changes nothing")
+checkEqual(logged(), "", "nor reports")
+
 -- Radio buttons in a group are exclusive at every report: the others go off before the
 -- chosen one comes on, then the group reports its new selection. A button deeper in the
 -- group's tree belongs to it; one under a nested group does not.

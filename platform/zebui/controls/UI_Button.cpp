@@ -63,6 +63,11 @@ bool UI_Button::UI_GainKeyboardFocus(ui::FocusChangeReason reason) {
     return UI_InteractiveControlView::UI_GainKeyboardFocus(reason);
 }
 
+bool UI_Button::UI_DoKeyboardEvent(ui::UI_Node* target, const ui::KeyboardEvent& event) {
+    return UI_InteractiveControlView::UI_DoKeyboardEvent(target, event) ||
+           PressOnSpace(target, event);
+}
+
 void UI_Button::UI_TrackPointer(InteractiveChangePhase phase,
                                 const zebcore::geom::PointT<float>& where) {
     const bool over = ContainsLocalPoint(where);

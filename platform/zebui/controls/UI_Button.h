@@ -81,6 +81,8 @@ public:
     // A cancelled change ends the press and leaves the value.
     void CancelInteractiveChange() override;
     bool UI_GainKeyboardFocus(ui::FocusChangeReason reason) override;
+    // Space on the focused button presses it (PressOnSpace).
+    bool UI_DoKeyboardEvent(ui::UI_Node* target, const ui::KeyboardEvent& event) override;
 
 protected:
     void UI_DrawFace(inkwell::Inkwell* inkwell) const override;

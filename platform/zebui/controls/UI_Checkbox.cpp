@@ -15,6 +15,11 @@ void UI_Checkbox::SetChecked(bool checked) {
     ChangeValue(mChecked, checked);
 }
 
+bool UI_Checkbox::UI_DoKeyboardEvent(ui::UI_Node* target, const ui::KeyboardEvent& event) {
+    return UI_InteractiveControlView::UI_DoKeyboardEvent(target, event) ||
+           PressOnSpace(target, event);
+}
+
 zebcore::geom::RectT<float> UI_Checkbox::GetLabelTextRect() const {
     return face::BesideMark(face::Bounds(*this));
 }

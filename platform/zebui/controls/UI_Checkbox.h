@@ -19,6 +19,8 @@ public:
     void SetChecked(bool checked);
 
     zebcore::geom::RectT<float> GetLabelTextRect() const override;
+    // Space on the focused control presses it (PressOnSpace).
+    bool UI_DoKeyboardEvent(ui::UI_Node* target, const ui::KeyboardEvent& event) override;
 
 protected:
     // A box at the left, as tall as the control up to 14 units, then the label.

@@ -1,6 +1,7 @@
 // Interactive control views.
 #include "zebui/controls/UI_InteractiveControlView.h"
 
+#include "zebui/ui/KeyboardEvent.h"
 #include "zebui/ui/MouseEvent.h"
 
 namespace zebui {
@@ -65,6 +66,20 @@ bool UI_InteractiveControlView::ContainsLocalPoint(
     const zebcore::geom::PointT<float>& where) const {
     const zebcore::geom::RectT<float> frame = UI_GetLocalRectF(false);
     return where.x >= 0 && where.y >= 0 && where.x < frame.width && where.y < frame.height;
+}
+
+bool UI_InteractiveControlView::PressOnSpace(ui::UI_Node* target, const ui::KeyboardEvent& event) {
+    if (target != this || event.GetAction() != ui::kKeyboardAction_Down ||
+        event.GetCode().GetValue(true) != ui::kKeyCode_Space || mInInteractiveChange)
+        return false;
+    const auto keep = ui::KeepNodeAlive(this);  // a listener may drop the last holder
+    const zebcore::geom::RectT<float> frame = UI_GetLocalRectF(false);
+    const zebcore::geom::PointT<float> middle(frame.width / 2, frame.height / 2);
+    UI_TrackPointer(kInteractiveChange_Begin, middle);
+    BeginInteractiveChange();
+    UI_TrackPointer(kInteractiveChange_Finish, middle);
+    FinishInteractiveChange();
+    return true;
 }
 
 void UI_InteractiveControlView::sendPhase(InteractiveChangePhase phase,

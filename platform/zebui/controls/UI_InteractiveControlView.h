@@ -46,6 +46,10 @@ protected:
                                  const zebcore::geom::PointT<float>& where);
     // where, in the control's own coordinates, lies on the control.
     bool ContainsLocalPoint(const zebcore::geom::PointT<float>& where) const;
+    // For a control that a click presses (buttons, check boxes, radio buttons), called from
+    // its UI_DoKeyboardEvent: Space on the focused control runs the phases a click in its
+    // middle would, so no listener can tell a key from the pointer. True when it did.
+    bool PressOnSpace(ui::UI_Node* target, const ui::KeyboardEvent& event);
 
 private:
     void sendPhase(InteractiveChangePhase phase, ui::ModifierFlags modifiers);

@@ -29,6 +29,11 @@ UI_RadioGroup* UI_RadioButton::GetRadioGroup() const {
     return nullptr;
 }
 
+bool UI_RadioButton::UI_DoKeyboardEvent(ui::UI_Node* target, const ui::KeyboardEvent& event) {
+    return UI_InteractiveControlView::UI_DoKeyboardEvent(target, event) ||
+           PressOnSpace(target, event);
+}
+
 zebcore::geom::RectT<float> UI_RadioButton::GetLabelTextRect() const {
     return face::BesideMark(face::Bounds(*this));
 }

@@ -32,6 +32,8 @@ public:
     UI_RadioGroup* GetRadioGroup() const;
 
     zebcore::geom::RectT<float> GetLabelTextRect() const override;
+    // Space on the focused control presses it (PressOnSpace).
+    bool UI_DoKeyboardEvent(ui::UI_Node* target, const ui::KeyboardEvent& event) override;
 
 protected:
     // A round button at the left, as tall as the control up to 14 units, then the label.
