@@ -72,6 +72,7 @@ checkEqual(tc:IsEditingInPlace(), false, "Return closes the edit")
 checkEqual(box().shown, false, "the box is only hidden while its message is delivered")
 checkEqual(phases[#phases], 2, "the edit finishes the control's change")
 checkEqual(changes, 1, "one change of value")
+checkEqual(tc:UI_HasKeyboardFocus(), true, "the focus the box took is back on the control")
 
 -- The box is gone a second after it closed, not before.
 zebhost.advance(999)

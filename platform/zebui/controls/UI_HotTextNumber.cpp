@@ -218,9 +218,13 @@ void UI_HotTextNumber::HandleInPlaceEditPhase(UI_InteractiveControlChangedMessag
 }
 
 void UI_HotTextNumber::CloseInPlaceEdit(ui::UI_Node* box) {
+    const bool boxHadFocus = box && box->UI_HasKeyboardFocus(true);
     if (box) box->UI_Show(false);
     UI_InstallTimer(kInPlaceEditRemovalSeconds, mInPlaceEditTimerID);
     UI_Invalidate(nullptr, 0);
+    // The focus the box took comes back, so the next key reaches the control again. Last,
+    // as focus listeners may run script.
+    if (boxHadFocus) UI_GainKeyboardFocus(ui::kFocusChangeReason_Program);
 }
 
 void UI_HotTextNumber::RemoveInPlaceEdit(bool removeTimer) {
