@@ -278,24 +278,20 @@ void unlistInkwell(Inkwell* inkwell) {
 bool hasScopeTableMetatable(lua_State* L, int index, DrawingKind kind) {
     if (!lua_getmetatable(L, index)) return false;
     const void* metatable = lua_topointer(L, -1);
-    if (!sScopeTableReference.Holds(L)) {
-        pushExistingScopeTable(L); /* takes the addresses when L can keep its reference */
-        lua_pop(L, 1);
-    }
     bool matches = false;
-    if (sScopeTableReference.Holds(L)) {
-        matches = metatable == sMetatableAddresses[metatableSlot(kind, true)] ||
-                  metatable == sMetatableAddresses[metatableSlot(kind, false)];
-    } else {
-        pushExistingScopeTable(L); /* mt, T */
+    if (!sScopeTableReference.Holds(L)) {
+        pushExistingScopeTable(L); /* mt, T: takes the addresses when L can keep its reference */
         for (const bool scoped : {true, false}) {
-            if (!lua_istable(L, -1)) break;
+            if (sScopeTableReference.Holds(L) || !lua_istable(L, -1)) break;
             lua_rawgeti(L, -1, metatableSlot(kind, scoped));
             matches = matches || lua_rawequal(L, -1, -3);
             lua_pop(L, 1);
         }
         lua_pop(L, 1);
     }
+    if (sScopeTableReference.Holds(L))
+        matches = metatable == sMetatableAddresses[metatableSlot(kind, true)] ||
+                  metatable == sMetatableAddresses[metatableSlot(kind, false)];
     lua_pop(L, 1);
     return matches;
 }
