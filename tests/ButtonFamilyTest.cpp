@@ -34,11 +34,6 @@ protected:
 };
 
 // Every method of the family once, with the arguments it takes: a script's call of it.
-struct MethodRow {
-    const char* maker;
-    const char* call;
-};
-
 const MethodRow kMethodRows[] = {
     {"C.NewTextButton()", "w:SetValue(true)"},
     {"C.NewTextButton()", "w:GetValue()"},
@@ -79,13 +74,8 @@ const MethodRow kMethodRows[] = {
 // A released wrapper and one a script ended through its __gc answer every method with no
 // value and no error.
 TEST_F(ButtonFamilyTest, ReleasedAndEndedWrappersAnswerNothing) {
-    for (const MethodRow& row : kMethodRows) {
-        SCOPED_TRACE(row.call);
-        runLua(std::string("w = ") + row.maker + "; w:Release()");
-        EXPECT_EQ(resultCount(row.call), 0);
-        runLua(std::string("w = ") + row.maker + "; getmetatable(w).__gc(w)");
-        EXPECT_EQ(resultCount(row.call), 0);
-    }
+    for (const MethodRow& row : kMethodRows)
+        expectEndedWrapperAnswersNothing(row);
     EXPECT_TRUE(zebcore::debug::RecordedAssertReports().empty());
 }
 
@@ -96,9 +86,9 @@ TEST_F(ButtonFamilyTest, EveryRowCastsItsNode) {
     for (const MethodRow& row : kMethodRows) {
         SCOPED_TRACE(row.call);
         runLua(std::string("w = ") + row.maker);
-        EXPECT_NE(luaError(MethodCallOn(row.call, "knob")).find("Invalid type conversion."),
+        EXPECT_NE(luaError(MethodCallOn(row, "knob")).find("Invalid type conversion."),
                   std::string::npos);
-        EXPECT_NE(luaError(MethodCallOn(row.call, "{}")).find("Bad user data"), std::string::npos);
+        EXPECT_NE(luaError(MethodCallOn(row, "{}")).find("Bad user data"), std::string::npos);
     }
     zebcore::debug::ClearRecordedAssertReports();
 }

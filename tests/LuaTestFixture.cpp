@@ -67,10 +67,19 @@ int LuaTest::resultCount(const std::string& expression) {
     return std::stoi(luaValue("select('#', " + expression + ")"));
 }
 
-std::string MethodCallOn(const std::string& call, const char* self) {
+std::string MethodCallOn(const MethodRow& row, const char* self) {
+    const std::string call = row.call;
     const size_t open = call.find('(');
     const std::string args = call.substr(open + 1);
     return "w." + call.substr(2, open - 2) + "(" + self + (args == ")" ? "" : ", ") + args;
+}
+
+void LuaTest::expectEndedWrapperAnswersNothing(const MethodRow& row) {
+    SCOPED_TRACE(row.call);
+    runLua(std::string("w = ") + row.maker + "; w:Release()");
+    EXPECT_EQ(resultCount(row.call), 0);
+    runLua(std::string("w = ") + row.maker + "; getmetatable(w).__gc(w)");
+    EXPECT_EQ(resultCount(row.call), 0);
 }
 
 void LuaTest::collectGarbage() {

@@ -7,6 +7,13 @@
 
 struct lua_State;
 
+// A row of a family's fault table: the script that makes a wrapper as w, and one call of a
+// method on it, "w:Name(args)".
+struct MethodRow {
+    const char* maker;
+    const char* call;
+};
+
 class LuaTest : public ::testing::Test {
 protected:
     void SetUp() override;
@@ -22,10 +29,13 @@ protected:
     int resultCount(const std::string& expression);
     // A full collection cycle.
     void collectGarbage();
+    // The row's call answers no value, and raises nothing, on a wrapper the script released
+    // and on one it ended through its __gc.
+    void expectEndedWrapperAnswersNothing(const MethodRow& row);
 
     lua_State* L = nullptr;
 };
 
 // A method call row of a family's fault table, "w:Name(args)", as "w.Name(self, args)": the
 // method taken from w and called on another self.
-std::string MethodCallOn(const std::string& call, const char* self);
+std::string MethodCallOn(const MethodRow& row, const char* self);

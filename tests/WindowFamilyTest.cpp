@@ -53,11 +53,6 @@ protected:
     }
 };
 
-struct MethodRow {
-    const char* maker;
-    const char* call;
-};
-
 const MethodRow kMethodRows[] = {
     {"C.NewPopupWindow(supplier)",
      "w:UI_SetGlobalStructureRect(zeblua_CreateNewRectF32(1, 2, 3, 4))"},
@@ -81,13 +76,8 @@ const MethodRow kMethodRows[] = {
 // A released wrapper and one a script ended through its __gc answer every method with no
 // value, no error and no effect.
 TEST_F(WindowFamilyTest, ReleasedAndEndedWrappersAnswerNothing) {
-    for (const MethodRow& row : kMethodRows) {
-        SCOPED_TRACE(row.call);
-        runLua(std::string("w = ") + row.maker + "; w:Release()");
-        EXPECT_EQ(resultCount(row.call), 0);
-        runLua(std::string("w = ") + row.maker + "; getmetatable(w).__gc(w)");
-        EXPECT_EQ(resultCount(row.call), 0);
-    }
+    for (const MethodRow& row : kMethodRows)
+        expectEndedWrapperAnswersNothing(row);
     EXPECT_EQ(zebui::ui::UI_NodeManager::Get(false)->GetModalWindowCount(), 0u);
     EXPECT_EQ(CommandHandlerBase::GetCurrentCommandHandler(), nullptr);
     EXPECT_TRUE(zebcore::debug::RecordedAssertReports().empty());
@@ -100,9 +90,9 @@ TEST_F(WindowFamilyTest, EveryRowCastsItsNode) {
     for (const MethodRow& row : kMethodRows) {
         SCOPED_TRACE(row.call);
         runLua(std::string("w = ") + row.maker);
-        EXPECT_NE(luaError(MethodCallOn(row.call, "view")).find("Invalid type conversion."),
+        EXPECT_NE(luaError(MethodCallOn(row, "view")).find("Invalid type conversion."),
                   std::string::npos);
-        EXPECT_NE(luaError(MethodCallOn(row.call, "{}")).find("Bad user data"), std::string::npos);
+        EXPECT_NE(luaError(MethodCallOn(row, "{}")).find("Bad user data"), std::string::npos);
     }
     EXPECT_NE(luaError("dialog.RunModal(popup)").find("Invalid type conversion."),
               std::string::npos);
