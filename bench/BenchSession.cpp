@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "host/src/HostLuaHeap.h"
 #include "host/src/Session.h"
 
 namespace zebbench {
@@ -29,8 +30,8 @@ const char kDrawingModules[] = R"(
 
 }  // namespace
 
-BenchSession::BenchSession() : mL(luaL_newstate()) {
-    if (!mL) fail("luaL_newstate", "out of memory");
+BenchSession::BenchSession() : mL(zebhost::NewHostState()) {
+    if (!mL) fail("NewHostState", "out of memory");
     zebhost::SessionOptions options;
     options.resourcesDir = ZEBHOST_DEFAULT_RESOURCES;
     std::string error;
@@ -41,7 +42,7 @@ BenchSession::BenchSession() : mL(luaL_newstate()) {
 }
 
 BenchSession::~BenchSession() {
-    lua_close(mL);
+    zebhost::CloseHostState(mL);
 }
 
 int BenchSession::compileLoop(const std::string& chunk, int nargs) {

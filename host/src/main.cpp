@@ -6,6 +6,7 @@
 #include <lua.hpp>
 
 #include "host/src/HostLoop.h"
+#include "host/src/HostLuaHeap.h"
 #include "host/src/Session.h"
 #include "zebcore/debug/HostLog.h"
 #include "zebcore/utility/Strings.h"
@@ -102,7 +103,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "zebhost log: %s\n", zebcore::utility::UTF16to8(message).c_str());
     });
 
-    lua_State* L = luaL_newstate();
+    lua_State* L = zebhost::NewHostState();
+    if (!L) {
+        std::fputs("zebhost: out of memory\n", stderr);
+        return 1;
+    }
     std::string error;
     int status = 1;
     if (!zebhost::OpenSession(L, options, error))
@@ -110,6 +115,6 @@ int main(int argc, char** argv) {
     else
         status = runScript(L, argv[scriptIndex], argc, argv, scriptIndex);
     if (status == 0) status = zebhost::RunEventLoop(runForMs);
-    lua_close(L);
+    zebhost::CloseHostState(L);
     return status;
 }

@@ -77,7 +77,7 @@ int inkwellCreateOffscreenSurface(lua_State* L) {
     const int height = static_cast<int>(luaL_checkinteger(L, 3));
     const bool flag = lua_toboolean(L, 4) != 0;
     // The proxy first: its push is the only thing that can raise a Lua error, and the
-    // surface must not exist yet if it does. Its record list can throw.
+    // surface must not exist yet if it does. Making the surface can throw.
     return utility::RunNative(L, "CreateOffscreenSurface", [&] {
         InkwellProxy* surface = nullptr;
         newProxyFromSurface(L, proxy->inkwell, nullptr, proxy, &surface, true);
@@ -94,10 +94,9 @@ int inkwellGetSurface(lua_State* L) {
     if (!InkwellInScope(proxy)) return 0;
     const bool first = proxy->surfaceProxy == nullptr;
     InkwellProxy* surface = nullptr;
-    utility::RunNative(L, "GetSurface", [&] {  // the scope's lists can throw
-        return newProxyFromSurface(L, proxy->inkwell, proxy->inkwell->GetSurface(), proxy, &surface,
-                                   false);
-    });
+    if (!newProxyFromSurface(L, proxy->inkwell, proxy->inkwell->GetSurface(), proxy, &surface,
+                             false))
+        return luaL_error(L, "GetSurface: %s", "std::bad_alloc"); /* as a thrown one reads */
     surface->inkwell = proxy->inkwell;
     if (first && proxy->scopeDepth == 0) {
         // surfaceProxy is a bare address: the record lives at least as long as this proxy.

@@ -99,6 +99,16 @@ int metatableSlot(DrawingKind kind, bool scoped) {
     return scoped ? kScopedSurfaceMetatable : kSurfaceMetatable;
 }
 
+// The record joins the list; false when the list could not grow.
+bool list(const LinkedRecord& linked) {
+    try {
+        sLinkedObjects.push_back(linked);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
 // The record leaves the list.
 void unlist(const InkwellProxy* record) {
     sLinkedObjects.erase(
@@ -164,6 +174,7 @@ void pushExistingScopeTable(lua_State* L) {
 
 // Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
 int pushScopeTable(lua_State* L) {
+    if (sScopeTableReference.Push(L)) return lua_gettop(L); /* every scope but the first */
     pushExistingScopeTable(L);
     if (!lua_istable(L, -1)) {
         lua_pop(L, 1);
@@ -265,14 +276,6 @@ int absoluteIndex(lua_State* L, int index) {
     return index > 0 ? index : lua_gettop(L) + index + 1;
 }
 
-// Unlists every record listed under inkwell.
-void unlistInkwell(Inkwell* inkwell) {
-    sLinkedObjects.erase(
-        std::remove_if(sLinkedObjects.begin(), sLinkedObjects.end(),
-                       [inkwell](const LinkedRecord& linked) { return linked.inkwell == inkwell; }),
-        sLinkedObjects.end());
-}
-
 // Whether the value at index has one of kind's two metatables of the scope table. Raises
 // no Lua error.
 bool hasScopeTableMetatable(lua_State* L, int index, DrawingKind kind) {
@@ -307,7 +310,7 @@ AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& ar
                              InkwellProxy{inkwell, nullptr, nullptr, false, 0, mDepth});
     lua_pushvalue(L, -1);
     lua_rawseti(L, table, anchorSlot(mDepth)); /* the last push that can raise */
-    lua_remove(L, table);
+    lua_replace(L, table);
     sScopeDepth = mDepth;
     if (mDepth <= kFlaggedDepths) sDepthOpen[mDepth] = true;
     argCount = 1;
@@ -372,7 +375,12 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
         if (!owned) anchor(L, proxy);
     }
     if (!owned) {
-        sLinkedObjects.push_back(LinkedRecord{inkwell, proxy, slot});  // before parent names it
+        if (!list(LinkedRecord{inkwell, proxy, slot})) {
+            InvalidateProxy(proxy);
+            if (slot == 0) releaseAnchor(L, proxy); /* a slot's record goes with its scope */
+            lua_pop(L, 1);
+            return 0;
+        }
         if (parent) parent->surfaceProxy = proxy;
     }
     if (out) *out = proxy;
@@ -380,9 +388,14 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
 }
 
 void InvalidateInkwellSubObjects(Inkwell* inkwell) {
-    for (const LinkedRecord& linked : sLinkedObjects)
-        if (linked.inkwell == inkwell) InvalidateProxy(linked.record);
-    unlistInkwell(inkwell);
+    auto kept = sLinkedObjects.begin();
+    for (const LinkedRecord& linked : sLinkedObjects) {
+        if (linked.inkwell == inkwell)
+            InvalidateProxy(linked.record);
+        else
+            *kept++ = linked;
+    }
+    sLinkedObjects.erase(kept, sLinkedObjects.end());
 }
 
 void InvalidateProxy(InkwellProxy* proxy) {
@@ -391,6 +404,7 @@ void InvalidateProxy(InkwellProxy* proxy) {
 }
 
 void EndInkwellScope(lua_State* L, Inkwell* inkwell) {
+    if (sLinkedObjects.empty()) return; /* most scopes took no surface */
     // Clearing a present field never allocates, so no collection can take a record before
     // InvalidateInkwellSubObjects has written to it.
     for (const LinkedRecord& linked : sLinkedObjects)

@@ -82,7 +82,7 @@ int newProxyFromInkwell(lua_State* L, zebui::inkwell::Inkwell* inkwell, InkwellP
 // proxy, is listed in the scope of inkwell and is held until that scope ends: in parent's
 // anchor slot when parent is a guard's, else in a registry table (an owned Inkwell's scope
 // ends when it is released). Owned: the caller adds the surface's reference. Raises Lua's
-// memory error, or throws std::bad_alloc when the list cannot grow.
+// memory error; returns 0, pushing nothing, when the list could not grow.
 int newProxyFromSurface(lua_State* L, zebui::inkwell::Inkwell* inkwell,
                         zebui::inkwell::SurfaceInterface* surface, InkwellProxy* parent,
                         InkwellProxy** out, bool owned);
