@@ -49,6 +49,16 @@ int readMatrix(lua_State* L) {
     GetMatrixF32FromLua(L, 1, sMatrix);
     return 0;
 }
+// readPair(rect, colour [, more]): the pair reader, or the two readers it stands for.
+int readPairAtOnce(lua_State* L) {
+    GetRectAndColorFromLua(L, 1, 2, sRect, sColour);
+    return 0;
+}
+int readPairOneByOne(lua_State* L) {
+    GetRectF32FromLua(L, 1, sRect);
+    GetColorRGBAFromLua(L, 2, sColour);
+    return 0;
+}
 
 template <class... T> std::string joined(T... values) {
     std::ostringstream text;
@@ -212,6 +222,92 @@ TEST_F(GeometryMarshallingTest, PresentFieldsNeverReachIndexAndAMissingOneReadsI
     EXPECT_THAT(luaError("readRect(withIndex{top=1, left='wide', width=3})"),
                 ::testing::HasSubstr("number expected, got string"));
     EXPECT_EQ(luaValue("#log"), "0");
+}
+
+// The pair reader is the rect reader followed by the colour reader, whichever way it reads:
+// the same values, the same error texts, the same __index calls in the same order, and a
+// rect stored before the colour fails.
+TEST_F(GeometryMarshallingTest, PairReaderActsAsTheRectReaderThenTheColourReader) {
+    runLua(R"(
+        log = {}
+        -- t with __index logging each key it is asked for, as "<tag>.<key>", answering 5.
+        function logging(tag, t)
+          return setmetatable(t, {__index = function(_, key)
+            log[#log + 1] = tag .. '.' .. key
+            if key == 'alpha' and tag == 'mutating' then theRect.left = 99 end
+            if key == 'fail' or key == 'blue' and tag == 'raising' then error('index ran', 0) end
+            return 5
+          end})
+        end
+        theRect = {left=1, top=2, width=3, height=4}
+    )");
+    const char* const calls[] = {
+        "readPair({left=1, top=2, width=3, height=4}, {red=1, green=0, blue=0, alpha=1})",
+        "readPair({left=-1.5, top=0, width=1e9, height=0.25}, {red=0, green=0, blue=0, alpha=0})",
+        // Numeric strings, a "0" among them: converted as luaL_checknumber converts them.
+        "readPair({left='1', top=' 2 ', width='0x10', height=4}, {red=1, green='0', blue=0, "
+        "alpha='0.5'})",
+        "readPair(logging('r', {left=1, top=2, width=3, height=4}), logging('c', {red=1, "
+        "green=0, blue=0, alpha=1}))",
+        "readPair(logging('r', {left=1, width=3}), logging('c', {red=1, blue=0}))",
+        "readPair(theRect, logging('mutating', {red=1, green=0, blue=0}))",
+        "readPair(logging('r', {top=1, left=2, height=3, width=4}), logging('raising', {red=1}))",
+        "readPair({left=1, top=2, width=3}, {red=1, green=0, blue=0, alpha=1})",
+        "readPair({left=1, top=2, width=3, height=4}, {red=1, green=0, blue=0})",
+        "readPair({left=1, top=2, width=3, height=4}, {red=1, green=true, blue=0, alpha=1})",
+        "readPair({left=1, top=2, width=3, height={}}, {red=1, green=0, blue=0, alpha=1})",
+        "readPair({left=1, top=2, width=3, height=4}, 'red')",
+        "readPair(5, {red=1, green=0, blue=0, alpha=1})",
+        "readPair({left=1, top=2, width=3, height=4})",
+        "readPair({left=1, top=2, width=3, height=4}, nil)",
+        "readPair()",
+        // The top of the stack is tested for nil, not the tables' positions.
+        "readPair({left=1, top=2, width=3, height=4}, {red=1, green=0, blue=0, alpha=1}, nil)",
+        "readPair({left=1, top=2, width=3, height=4}, {red=1, green=0, blue=0, alpha=1}, 7)",
+        "readPair({left=1, top=2, width=3, height='x'}, {red=1, green=0, blue=0, alpha=1}, nil)",
+    };
+    const auto outcome = [this](lua_CFunction reader, const std::string& call) {
+        resetTargets();
+        lua_register(L, "readPair", reader);
+        runLua("log = {} theRect = {left=1, top=2, width=3, height=4}");
+        runLua("local ok, e = pcall(function() " + call + " end) failure = ok and '' or e");
+        return "error=" + luaValue("failure") + " rect=" + rectText() + " colour=" + colourText() +
+               " log=" + luaValue("table.concat(log, ' ')") + " left=" + luaValue("theRect.left");
+    };
+    for (const char* call : calls) {
+        const std::string atOnce = outcome(readPairAtOnce, call);
+        EXPECT_EQ(atOnce, outcome(readPairOneByOne, call)) << call;
+    }
+
+    // What those rows came to, for the rows where a careless rewrite would differ.
+    EXPECT_EQ(outcome(readPairAtOnce, calls[0]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
+    EXPECT_EQ(outcome(readPairAtOnce, calls[2]),
+              "error= rect=1 2 16 4 colour=1 0 0 0.5 log= left=1");
+    EXPECT_EQ(outcome(readPairAtOnce, calls[3]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
+    EXPECT_EQ(outcome(readPairAtOnce, calls[4]),
+              "error= rect=1 5 3 5 colour=1 5 0 5 log=r.top r.height c.green c.alpha left=1");
+    // The colour's __index ran after the rect was read: the rect keeps the old left.
+    EXPECT_EQ(outcome(readPairAtOnce, calls[5]),
+              "error= rect=1 2 3 4 colour=1 0 0 5 log=mutating.alpha left=99");
+    // The rect is stored before the colour read raises.
+    EXPECT_EQ(outcome(readPairAtOnce, calls[6]),
+              "error=index ran rect=2 1 4 3 colour=-7 -7 -7 -7 log=raising.green raising.blue "
+              "left=1");
+    EXPECT_THAT(outcome(readPairAtOnce, calls[7]),
+                ::testing::HasSubstr("bad argument #-1 to 'readPair' (number expected, got nil) "
+                                     "rect=-7 -7 -7 -7 colour=-7 -7 -7 -7"));
+    EXPECT_THAT(outcome(readPairAtOnce, calls[9]),
+                ::testing::HasSubstr("(number expected, got boolean) rect=1 2 3 4 colour=-7"));
+    EXPECT_THAT(outcome(readPairAtOnce, calls[11]),
+                ::testing::HasSubstr("bad argument #2 to 'readPair' (table expected, got string)"));
+    EXPECT_THAT(outcome(readPairAtOnce, calls[14]),
+                ::testing::HasSubstr("bad argument #2 to 'readPair' (table expected, got nil) "
+                                     "rect=-7 -7 -7 -7"));
+    EXPECT_EQ(outcome(readPairAtOnce, calls[16]),
+              "error= rect=-7 -7 -7 -7 colour=-7 -7 -7 -7 log= left=1");
+    EXPECT_EQ(outcome(readPairAtOnce, calls[17]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
+    EXPECT_EQ(outcome(readPairAtOnce, calls[18]),
+              "error= rect=-7 -7 -7 -7 colour=-7 -7 -7 -7 log= left=1");
 }
 
 TEST_F(GeometryMarshallingTest, MatrixReaderCountsTheNumbersOfItsRowTables) {

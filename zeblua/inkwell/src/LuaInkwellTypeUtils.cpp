@@ -68,20 +68,20 @@ bool tableToRead(lua_State* L, int index) {
 // The raw values of the fields, when every one converts as luaL_checknumber converts it.
 // __index runs only for an absent key, so then lua_gettable would have given the same values
 // and run no script, in any order. False when one does not: the caller reads again the full
-// way, with its __index order and its errors. The values stay on the stack until the end.
+// way, with its __index order and its errors. The values are left on the stack above keys,
+// for the caller to drop with lua_settop(L, keys). A zero is taken only from a number: a
+// string that converts to 0 goes the full way, which converts it the same, so that a value
+// costs one lua_tonumber and rarely a lua_type.
 template <std::size_t N>
 bool rawNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
                 lua_Number (&values)[N]) {
-    const int top = lua_gettop(L);
-    bool all = true;
-    for (std::size_t i = 0; all && i < N; ++i) {
+    for (std::size_t i = 0; i < N; ++i) {
         lua_rawgeti(L, keys, fields[i]);
         lua_rawget(L, index);
         values[i] = lua_tonumber(L, -1);
-        all = values[i] != 0 || lua_isnumber(L, -1); /* luaL_checknumber's own test */
+        if (values[i] == 0 && lua_type(L, -1) != LUA_TNUMBER) return false;
     }
-    lua_settop(L, top);
-    return all;
+    return true;
 }
 
 // Reads the number fields into values: raw when all are numbers, else each by
@@ -89,9 +89,24 @@ bool rawNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
 template <std::size_t N>
 void readNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
                  lua_Number (&values)[N]) {
-    if (rawNumbers(L, index, keys, fields, values)) return;
+    const bool raw = rawNumbers(L, index, keys, fields, values);
+    lua_settop(L, keys);
+    if (raw) return;
     for (std::size_t i = 0; i < N; ++i)
         values[i] = CheckNumberField(L, index, keys, fields[i]);
+}
+
+const Key kRectFields[] = {kTop, kLeft, kHeight, kWidth};
+const Key kColourFields[] = {kRed, kGreen, kBlue, kAlpha};
+
+RectT<float> rectFrom(const lua_Number (&v)[4]) { /* top, left, height, width */
+    return RectT<float>(static_cast<float>(v[1]), static_cast<float>(v[0]),
+                        static_cast<float>(v[3]), static_cast<float>(v[2]));
+}
+
+ColorRGBA colourFrom(const lua_Number (&v)[4]) {
+    return ColorRGBA(static_cast<float>(v[0]), static_cast<float>(v[1]), static_cast<float>(v[2]),
+                     static_cast<float>(v[3]));
 }
 
 // CheckNumberField's form with luaL_checkinteger and lua_tointeger.
@@ -154,11 +169,10 @@ void GetPointF32FromLua(lua_State* L, int index, PointT<float>& point) {
 void GetRectF32FromLua(lua_State* L, int index, RectT<float>& rect) {
     if (!tableToRead(L, index)) return;
     const int keys = sKeys.Push(L);
-    lua_Number v[4]; /* top, left, height, width */
-    readNumbers(L, index, keys, {kTop, kLeft, kHeight, kWidth}, v);
+    lua_Number v[4];
+    readNumbers(L, index, keys, kRectFields, v);
     lua_pop(L, 1);
-    rect = RectT<float>(static_cast<float>(v[1]), static_cast<float>(v[0]),
-                        static_cast<float>(v[3]), static_cast<float>(v[2]));
+    rect = rectFrom(v);
 }
 
 void GetRect32FromLua(lua_State* L, int index, RectT<int>& rect) {
@@ -177,10 +191,34 @@ void GetColorRGBAFromLua(lua_State* L, int index, ColorRGBA& colour) {
     if (!tableToRead(L, index)) return;
     const int keys = sKeys.Push(L);
     lua_Number v[4];
-    readNumbers(L, index, keys, {kRed, kGreen, kBlue, kAlpha}, v);
+    readNumbers(L, index, keys, kColourFields, v);
     lua_pop(L, 1);
-    colour = ColorRGBA(static_cast<float>(v[0]), static_cast<float>(v[1]), static_cast<float>(v[2]),
-                       static_cast<float>(v[3]));
+    colour = colourFrom(v);
+}
+
+// Both tables, and a top that is not nil, is what lets each reader on its own go on to read
+// its fields; the raw pass then either gives what those reads would give, running nothing,
+// or hands over to them unchanged. A draw path pays for one key table and no table check
+// per field, and its stack holds at most the key table and four values, as each reader's.
+void GetRectAndColorFromLua(lua_State* L, int rectIndex, int colourIndex, RectT<float>& rect,
+                            ColorRGBA& colour) {
+    if (lua_type(L, rectIndex) == LUA_TTABLE && lua_type(L, colourIndex) == LUA_TTABLE &&
+        !lua_isnil(L, -1)) {
+        const int keys = sKeys.Push(L);
+        lua_Number r[4];
+        lua_Number c[4];
+        bool raw = rawNumbers(L, rectIndex, keys, kRectFields, r);
+        lua_settop(L, keys);
+        raw = raw && rawNumbers(L, colourIndex, keys, kColourFields, c);
+        lua_settop(L, keys - 1);
+        if (raw) {
+            rect = rectFrom(r);
+            colour = colourFrom(c);
+            return;
+        }
+    }
+    GetRectF32FromLua(L, rectIndex, rect);
+    GetColorRGBAFromLua(L, colourIndex, colour);
 }
 
 void GetMatrixF32FromLua(lua_State* L, int index, MatrixT<float>& matrix) {

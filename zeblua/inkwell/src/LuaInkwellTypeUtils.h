@@ -23,6 +23,12 @@ void GetPointF32FromLua(lua_State* L, int index, zebcore::geom::PointT<float>& p
 void GetRectF32FromLua(lua_State* L, int index, zebcore::geom::RectT<float>& rect);
 void GetRect32FromLua(lua_State* L, int index, zebcore::geom::RectT<int>& rect);
 void GetColorRGBAFromLua(lua_State* L, int index, zebui::inkwell::ColorRGBA& colour);
+// GetRectF32FromLua at rectIndex, then GetColorRGBAFromLua at colourIndex: the same values,
+// errors and __index order, for the draw calls that take both. When both are tables whose
+// eight fields are all present numbers, no __index can run in either read, and then they
+// are taken in one pass that pushes the key table once.
+void GetRectAndColorFromLua(lua_State* L, int rectIndex, int colourIndex,
+                            zebcore::geom::RectT<float>& rect, zebui::inkwell::ColorRGBA& colour);
 // The table's row tables are walked in lua_next order, and in each the values for which
 // lua_isnumber holds (numeric strings too) are taken; anything else is skipped. Unless
 // that gives exactly nine numbers, the report "matData.size() == 9" is made and the Lua

@@ -263,8 +263,7 @@ int surfaceMeasureStringWidth(lua_State* L) {
 
 // The rect at argument 2 and the colour at argument 3, read in that order.
 void readRectAndColour(lua_State* L, RectT<float>& rect, ColorRGBA& colour) {
-    GetRectF32FromLua(L, 2, rect);
-    GetColorRGBAFromLua(L, 3, colour);
+    GetRectAndColorFromLua(L, 2, 3, rect, colour);
 }
 
 // -- surface:PaintRect(rect, colour)

@@ -16,10 +16,6 @@ double finiteOrZero(float value) {
 
 }  // namespace
 
-bool AllFinite(std::initializer_list<double> values) {
-    return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
-}
-
 bool ImageSizeAllowed(long long width, long long height, long long largestSide) {
     return width > 0 && height > 0 && width <= largestSide && height <= largestSide &&
            width * height * 4 <= static_cast<long long>(kLargestImageBytes);

@@ -1,6 +1,8 @@
 // What the Cairo back end refuses or narrows before it reaches Cairo.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <initializer_list>
 
@@ -26,8 +28,10 @@ constexpr std::size_t kLongestText = 65536;
 constexpr int kLargestImageSide = 16384;
 constexpr std::size_t kLargestImageBytes = std::size_t(256) << 20;
 
-// True when none of values is NaN or infinite.
-bool AllFinite(std::initializer_list<double> values);
+// True when none of values is NaN or infinite. Inline: every fill and stroke asks it.
+inline bool AllFinite(std::initializer_list<double> values) {
+    return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
 // Whether a width x height ARGB32 image stays within the image limits (largestSide: Cairo's
 // own 32767 for surfaces, kLargestImageSide for decoded images).
 bool ImageSizeAllowed(long long width, long long height, long long largestSide);
