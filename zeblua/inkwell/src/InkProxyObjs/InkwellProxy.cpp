@@ -45,30 +45,44 @@ struct LinkedRecord {
 // and the anchors' close sentinels unlist it first. Few at a time: a flat vector.
 std::vector<LinkedRecord> sLinkedObjects;
 
-// Guards open, across all states; a guard's anchor slots are numbered by its depth.
+// Guards open, across all states; a guard's record and surface slot are numbered by its depth.
 int sScopeDepth = 0;
 
-// Whether a guard of that depth is open, for the depths most programs reach. A guard whose
-// destructor a Lua error skipped (longjmp runs none) leaves its flag set, which the next
-// guard of that depth finds. Deeper guards look at their slots instead.
-constexpr int kFlaggedDepths = 64;
-bool sDepthOpen[kFlaggedDepths + 1];
+// A guard's Inkwell record is native, one per depth, and its proxy's userdata holds only a
+// handle to it: the guard ends the record by its generation, so nothing has to hold the
+// userdata while the scope is open, and the collector takes it whenever the script lets go.
+// A handle kept past its scope finds another generation (0 while no guard of that depth is
+// open) and reads as ended. A guard whose destructor a Lua error skipped (longjmp runs none)
+// leaves its generation set, which the next guard of that depth finds.
+struct ScopeRecord {
+    InkwellProxy proxy;
+    unsigned long long generation;
+};
+struct ScopeHandle {
+    ScopeRecord* scope;
+    unsigned long long generation;
+};
+// Lua nests at most a couple of hundred C calls in one state, and a guard is one of them.
+constexpr int kDeepestScope = 256;
+ScopeRecord sScopeRecords[kDeepestScope + 1];  // by depth, from 1
+unsigned long long sLastGeneration = 0;
+// What an ended handle reads: filled again at every read, so a write through one never stays.
+InkwellProxy sEndedInkwell;
 
 // What a light userdata that names no surface record stands for. Only ever nulled.
 InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0, 0};
 
 // Registry keys, by address.
 // The scope table, one per state: the two kinds' registered and scoped metatables, its own
-// registry reference, then two anchor slots per guard depth, its Inkwell proxy and the
-// surface record it made. Integer keys in the table's array part, so a scope hashes
-// nothing, and a slot is only ever set again, never added, once the deepest scope has been
-// open.
+// registry reference, then one slot per guard depth for the surface record its GetSurface
+// made. Integer keys in the table's array part, so a scope hashes nothing, and a slot is
+// only ever set again, never added, once the deepest scope has been open.
 // The anchor table holds the records listed for an Inkwell made outside a guard. One weak
 // table per slot, so that keeping a value costs no table per proxy either. The live
 // records are weak-valued: an entry goes when the collector takes its record, whether or
 // not a __gc runs, so a light userdata is checked there and never against memory that may
 // be gone.
-char sScopeTableKey;                          // see kInkwellMetatable and anchorSlot
+char sScopeTableKey;                          // see kInkwellMetatable and surfaceSlot
 char sScopeAnchorsKey;                        // [lightud(record)] = its userdata
 char sLiveRecordsKey;                         // weak values: [lightud(record)] = its userdata
 char sKeptValuesKeys[kKeptBoundSurface + 1];  // per KeptSlot, weak keys: [proxy] = value
@@ -82,16 +96,19 @@ enum ScopeTableSlot {
     kFirstAnchorSlot,
 };
 
-// A draw path reads the scope table at every scope and every proxy check.
+// A draw path reads the scope table at every proxy check, and the scoped Inkwell metatable
+// at every scope; that metatable keeps its own registry reference at kOwnMetatableReference.
 const utility::CachedRegistryReference sScopeTableReference;
+const utility::CachedRegistryReference sScopedInkwellMetatableReference;
+constexpr int kOwnMetatableReference = 1;
 // The addresses of the four metatables in the scope table, taken when its reference was
 // kept: while it holds, a proxy check compares its metatable's address with these and reads
 // no table. The scope table keeps them alive, so no other table can have their addresses.
 const void* sMetatableAddresses[kScopedSurfaceMetatable + 1];
 
-// The anchor of depth's Inkwell proxy; the next slot is its surface record's.
-int anchorSlot(int depth) {
-    return kFirstAnchorSlot + 2 * (depth - 1);
+// Where the surface record that the guard of depth made is held.
+int surfaceSlot(int depth) {
+    return kFirstAnchorSlot + depth - 1;
 }
 
 int metatableSlot(DrawingKind kind, bool scoped) {
@@ -138,9 +155,10 @@ int unlistAnchoredRecords(lua_State* L) {
 }
 
 // The scoped form of the registered metatable on top of the stack, pushed above it: the same
-// __index and __tostring, no __gc, and "__metatable" answering the registered table.
+// __index and __tostring, no __gc, and "__metatable" answering the registered table; its one
+// array slot is for its own registry reference.
 void pushScopedMetatable(lua_State* L) {
-    lua_createtable(L, 0, 3);
+    lua_createtable(L, kOwnMetatableReference, 3);
     for (const char* field : {"__index", "__tostring"}) {
         lua_getfield(L, -2, field);
         lua_setfield(L, -2, field);
@@ -205,19 +223,40 @@ InkwellProxy* newScopedRecord(lua_State* L, int tableIndex, DrawingKind kind,
     return record;
 }
 
-// The slots of depth may still hold the records of a guard that a Lua error skipped: they
-// are ended and unlisted before the slots are used again, so no listed record is ever let
-// go. Ending an ended record again changes nothing. Raises no Lua error.
-void endSkippedScope(lua_State* L, int tableIndex, int depth) {
-    if (depth <= kFlaggedDepths && !sDepthOpen[depth]) return;
-    for (const int slot : {anchorSlot(depth), anchorSlot(depth) + 1}) {
-        lua_rawgeti(L, tableIndex, slot);
-        auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, -1));
+// A guard of depth whose destructor a Lua error skipped left its record open and its
+// surface record listed: both are ended, and the surface record unlisted, before the depth
+// is used again, so no listed record is ever let go. Ending an ended record again changes
+// nothing. Raises no Lua error.
+void endSkippedScope(lua_State* L, int depth) {
+    ScopeRecord& scope = sScopeRecords[depth];
+    InvalidateProxy(&scope.proxy);
+    scope.generation = 0;
+    pushExistingScopeTable(L);
+    if (lua_istable(L, -1)) {
+        lua_rawgeti(L, -1, surfaceSlot(depth));
+        if (auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, -1))) {
+            unlist(record);
+            InvalidateProxy(record);
+        }
         lua_pop(L, 1);
-        if (!record) continue;
-        unlist(record);
-        InvalidateProxy(record);
     }
+    lua_pop(L, 1);
+}
+
+// Pushes the scoped Inkwell metatable. Raises Lua's memory error, or an opener's.
+void pushScopedInkwellMetatable(lua_State* L) {
+    if (sScopedInkwellMetatableReference.Push(L)) return;
+    pushScopeTable(L);
+    lua_rawgeti(L, -1, kScopedInkwellMetatable);
+    lua_remove(L, -2);
+    sScopedInkwellMetatableReference.Keep(L, SelfReference(L, -1, kOwnMetatableReference));
+}
+
+// The record a guard's handle names, or an ended one once its scope has closed.
+InkwellProxy* handleRecord(const ScopeHandle& handle) {
+    if (handle.scope->generation == handle.generation) return &handle.scope->proxy;
+    sEndedInkwell = InkwellProxy{nullptr, nullptr, nullptr, false, 0, 0};
+    return &sEndedInkwell;
 }
 
 // Holds the userdata on top of the stack (left there), whose block is record, until
@@ -246,7 +285,7 @@ void markLive(lua_State* L, const InkwellProxy& parent) {
     lua_checkstack(L, 4);
     if (parent.scopeDepth > 0) {
         pushExistingScopeTable(L);
-        lua_rawgeti(L, -1, anchorSlot(parent.scopeDepth) + 1);
+        lua_rawgeti(L, -1, surfaceSlot(parent.scopeDepth));
     } else {
         PushRegistryTable(L, &sScopeAnchorsKey);
         lua_pushlightuserdata(L, parent.surfaceProxy);
@@ -276,65 +315,74 @@ int absoluteIndex(lua_State* L, int index) {
     return index > 0 ? index : lua_gettop(L) + index + 1;
 }
 
-// Whether the value at index has one of kind's two metatables of the scope table. Raises
-// no Lua error.
-bool hasScopeTableMetatable(lua_State* L, int index, DrawingKind kind) {
-    if (!lua_getmetatable(L, index)) return false;
+// The slot in the scope table of the metatable of the value at index when it is one of kind's
+// two, else 0. Raises no Lua error.
+int scopeTableMetatableSlot(lua_State* L, int index, DrawingKind kind) {
+    if (!lua_getmetatable(L, index)) return 0;
     const void* metatable = lua_topointer(L, -1);
-    bool matches = false;
+    int matched = 0;
     if (!sScopeTableReference.Holds(L)) {
         pushExistingScopeTable(L); /* mt, T: takes the addresses when L can keep its reference */
         for (const bool scoped : {true, false}) {
             if (sScopeTableReference.Holds(L) || !lua_istable(L, -1)) break;
             lua_rawgeti(L, -1, metatableSlot(kind, scoped));
-            matches = matches || lua_rawequal(L, -1, -3);
+            if (!matched && lua_rawequal(L, -1, -3)) matched = metatableSlot(kind, scoped);
             lua_pop(L, 1);
         }
         lua_pop(L, 1);
     }
-    if (sScopeTableReference.Holds(L))
-        matches = metatable == sMetatableAddresses[metatableSlot(kind, true)] ||
-                  metatable == sMetatableAddresses[metatableSlot(kind, false)];
+    if (sScopeTableReference.Holds(L)) {
+        for (const bool scoped : {true, false})
+            if (metatable == sMetatableAddresses[metatableSlot(kind, scoped)])
+                matched = metatableSlot(kind, scoped);
+    }
     lua_pop(L, 1);
-    return matches;
+    return matched;
 }
 
 }  // namespace
 
 AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& argCount)
     : mL(L), mProxy(nullptr), mDepth(sScopeDepth + 1) {
-    lua_checkstack(L, 4);
-    const int table = pushScopeTable(L);
-    endSkippedScope(L, table, mDepth);
-    mProxy = newScopedRecord(L, table, DrawingKind::kInkwell,
-                             InkwellProxy{inkwell, nullptr, nullptr, false, 0, mDepth});
-    lua_pushvalue(L, -1);
-    lua_rawseti(L, table, anchorSlot(mDepth)); /* the last push that can raise */
-    lua_replace(L, table);
+    if (mDepth > kDeepestScope) luaL_error(L, "draw scopes nested deeper than %d", kDeepestScope);
+    lua_checkstack(L, 6); /* the first scope of a state makes its table under the proxy */
+    ScopeRecord& scope = sScopeRecords[mDepth];
+    if (scope.generation != 0) endSkippedScope(L, mDepth);
+    auto* handle = static_cast<ScopeHandle*>(lua_newuserdata(L, sizeof(ScopeHandle)));
+    *handle = ScopeHandle{&scope, 0}; /* names no open scope until the end */
+    pushScopedInkwellMetatable(L);
+    lua_setmetatable(L, -2); /* the last call that can raise */
+    scope.proxy = InkwellProxy{inkwell, nullptr, nullptr, false, 0, mDepth};
+    scope.generation = ++sLastGeneration;
+    handle->generation = scope.generation;
+    mProxy = &scope.proxy;
     sScopeDepth = mDepth;
-    if (mDepth <= kFlaggedDepths) sDepthOpen[mDepth] = true;
     argCount = 1;
 }
 
 // The surface records of enclosing scopes on the same Inkwell end here too, but stay in
-// their slots until their own scope closes, since their Inkwell proxies still name them.
-// The guard's own records stay in the slots of its depth, ended, until the next guard of
-// that depth puts its own there: a closing scope writes no slot and calls no Lua function.
+// their slots until their own scope closes, since their Inkwell records still name them.
+// The guard's surface record stays in the slot of its depth, ended, until the next guard
+// of that depth puts its own there: a closing scope writes no slot and calls no Lua function.
 AcquireInkwellProxy::~AcquireInkwellProxy() {
     popScriptStates(*mProxy);
     EndInkwellScope(mL, mProxy->inkwell);
     // Only GetSurface fills the surface slot, and it names what it put there.
     if (mProxy->surfaceProxy) InvalidateProxy(mProxy->surfaceProxy);
     InvalidateProxy(mProxy);
+    sScopeRecords[mDepth].generation = 0;
     sScopeDepth = mDepth - 1;
-    if (mDepth <= kFlaggedDepths) sDepthOpen[mDepth] = false;
 }
 
 void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind) {
     const char* metatableName =
         kind == DrawingKind::kInkwell ? kZebLuaInkwellMetaTableName : kZebLuaSurfaceMetaTableName;
     void* block = lua_touserdata(L, index);
-    if (block && hasScopeTableMetatable(L, index, kind)) return block;
+    if (block) {
+        const int slot = scopeTableMetatableSlot(L, index, kind);
+        if (slot == kScopedInkwellMetatable) return handleRecord(*static_cast<ScopeHandle*>(block));
+        if (slot != 0) return block;
+    }
     // No scope has opened in this state yet, or not one of these: the plain check decides.
     return utility::CheckProxyBlock(L, index, metatableName);
 }
@@ -362,10 +410,10 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
     InkwellProxy* proxy = nullptr;
     int slot = 0;
     if (!owned && parent && parent->scopeDepth > 0) {
-        lua_checkstack(L, 3);
+        lua_checkstack(L, 5);
         const int table = pushScopeTable(L);
         proxy = newScopedRecord(L, table, DrawingKind::kSurface, fields);
-        slot = anchorSlot(parent->scopeDepth) + 1;
+        slot = surfaceSlot(parent->scopeDepth);
         lua_pushvalue(L, -1);
         lua_rawseti(L, table, slot);
         lua_remove(L, table);

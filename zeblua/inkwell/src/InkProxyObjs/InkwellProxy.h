@@ -33,8 +33,8 @@ struct InkwellProxy {
     // popped. A pop beyond them is refused, so a script never pops a state its scope's
     // opener saved, and the scope pops what is left when it closes.
     int pushedStates;
-    // Inkwell proxy only: the depth of the guard that made it, whose anchor slots hold it and
-    // the surface record it makes; 0 for one made outside a guard.
+    // Inkwell proxy only: the depth of the guard whose record it is, whose slot holds the
+    // surface record it makes; 0 for one made outside a guard.
     int scopeDepth;
 };
 
@@ -42,14 +42,16 @@ struct InkwellProxy {
 //   lua_rawgeti(L, LUA_REGISTRYINDEX, fn);
 //   int argCount = 0;
 //   { AcquireInkwellProxy scope(L, inkwell, argCount); lua_pcall(L, argCount, 0, 0); }
-// Pushes the Inkwell proxy the callback receives. The destructor, on return or on
-// unwinding, pops the states the callback pushed on its surface and left there, then ends
-// that proxy and every surface proxy taken on the same Inkwell, also those of an enclosing
-// scope. The proxy and the surface record it makes are held in the anchor slots of the
-// scope's depth, so a callback that drops them cannot free what the destructor writes to;
-// each carries its kind's scoped metatable, which has no __gc, so collecting it costs
-// nothing and ending it calls no Lua function. Raises only Lua's memory error, and only
-// while it is being made.
+// Pushes the Inkwell proxy the callback receives: a fresh userdata, never one of an
+// earlier scope, holding a handle to the guard's native record. The destructor, on return
+// or on unwinding, pops the states the callback pushed on its surface and left there, then
+// ends that record, which every handle to it then reads as ended, and every surface proxy
+// taken on the same Inkwell, also those of an enclosing scope. The surface record the
+// proxy makes is held in the slot of the scope's depth, so a callback that drops it cannot
+// free what the destructor writes to. Both carry their kind's scoped metatable, which has
+// no __gc, so collecting them costs nothing and ending them calls no Lua function. Raises
+// only Lua's memory error, or an error for guards nested deeper than 256, and only while
+// it is being made.
 class AcquireInkwellProxy {
 public:
     // Sets argCount to 1, the one value pushed.
@@ -60,16 +62,18 @@ public:
 
 private:
     lua_State* mL;
-    InkwellProxy* mProxy;
+    InkwellProxy* mProxy;  // the native record of mDepth
     int mDepth;
 };
 
 enum class DrawingKind { kInkwell, kSurface };
 
-// The block of the Inkwell or surface proxy at index: its metatable is the kind's registered
-// one or, for a guard's records, the kind's scoped one, which answers the same methods and
-// whose "__metatable" is the registered one, so getmetatable shows no difference. Anything
-// else raises luaL_checkudata's error with the registered name.
+// The record of the Inkwell or surface proxy at index: its metatable is the kind's registered
+// one or, for a guard's proxies, the kind's scoped one, which answers the same methods and
+// whose "__metatable" is the registered one, so getmetatable shows no difference. A guard's
+// Inkwell proxy gives its native record, or an ended record once its scope has closed; any
+// other gives its userdata's block. Anything else raises luaL_checkudata's error with the
+// registered name.
 void* CheckDrawingProxy(lua_State* L, int index, DrawingKind kind);
 
 // Pushes an Inkwell proxy that lends inkwell, outside any scope; returns 1.
