@@ -54,6 +54,10 @@ int readPairAtOnce(lua_State* L) {
     GetRectAndColorFromLua(L, 1, 2, sRect, sColour);
     return 0;
 }
+int readPairFromUpvalues(lua_State* L) {
+    GetRectAndColorFromUpvalues(L, 1, 2, sRect, sColour);
+    return 0;
+}
 int readPairOneByOne(lua_State* L) {
     GetRectF32FromLua(L, 1, sRect);
     GetColorRGBAFromLua(L, 2, sColour);
@@ -266,47 +270,64 @@ TEST_F(GeometryMarshallingTest, PairReaderActsAsTheRectReaderThenTheColourReader
         "readPair({left=1, top=2, width=3, height=4}, {red=1, green=0, blue=0, alpha=1}, 7)",
         "readPair({left=1, top=2, width=3, height='x'}, {red=1, green=0, blue=0, alpha=1}, nil)",
     };
-    const auto outcome = [this](lua_CFunction reader, const std::string& call) {
+    // The upvalue form as a draw method has it, and without its upvalues.
+    const auto closure = [](lua_State* state) {
+        lua_pushcclosure(state, readPairFromUpvalues, PushRectAndColorKeys(state));
+    };
+    const auto bare = [](lua_State* state) { lua_pushcfunction(state, readPairFromUpvalues); };
+    const auto atOnce = [](lua_State* state) { lua_pushcfunction(state, readPairAtOnce); };
+    const auto oneByOne = [](lua_State* state) { lua_pushcfunction(state, readPairOneByOne); };
+    const auto outcome = [this](void (*pushReader)(lua_State*), const std::string& call) {
         resetTargets();
-        lua_register(L, "readPair", reader);
+        pushReader(L);
+        lua_setglobal(L, "readPair");
         runLua("log = {} theRect = {left=1, top=2, width=3, height=4}");
         runLua("local ok, e = pcall(function() " + call + " end) failure = ok and '' or e");
         return "error=" + luaValue("failure") + " rect=" + rectText() + " colour=" + colourText() +
                " log=" + luaValue("table.concat(log, ' ')") + " left=" + luaValue("theRect.left");
     };
     for (const char* call : calls) {
-        const std::string atOnce = outcome(readPairAtOnce, call);
-        EXPECT_EQ(atOnce, outcome(readPairOneByOne, call)) << call;
+        const std::string expected = outcome(oneByOne, call);
+        EXPECT_EQ(outcome(atOnce, call), expected) << call;
+        EXPECT_EQ(outcome(closure, call), expected) << call;
+        EXPECT_EQ(outcome(bare, call), expected) << call;
     }
+    // Eight names, the rect's in the order its reader asks for them, then the colour's.
+    lua_settop(L, 0);
+    ASSERT_EQ(PushRectAndColorKeys(L), 8);
+    std::string names;
+    for (int i = 1; i <= lua_gettop(L); ++i)
+        names += std::string(i > 1 ? " " : "") + lua_tostring(L, i);
+    EXPECT_EQ(names, "top left height width red green blue alpha");
+    lua_settop(L, 0);
 
     // What those rows came to, for the rows where a careless rewrite would differ.
-    EXPECT_EQ(outcome(readPairAtOnce, calls[0]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
-    EXPECT_EQ(outcome(readPairAtOnce, calls[2]),
-              "error= rect=1 2 16 4 colour=1 0 0 0.5 log= left=1");
-    EXPECT_EQ(outcome(readPairAtOnce, calls[3]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
-    EXPECT_EQ(outcome(readPairAtOnce, calls[4]),
+    EXPECT_EQ(outcome(closure, calls[0]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
+    EXPECT_EQ(outcome(closure, calls[2]), "error= rect=1 2 16 4 colour=1 0 0 0.5 log= left=1");
+    EXPECT_EQ(outcome(closure, calls[3]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
+    EXPECT_EQ(outcome(closure, calls[4]),
               "error= rect=1 5 3 5 colour=1 5 0 5 log=r.top r.height c.green c.alpha left=1");
     // The colour's __index ran after the rect was read: the rect keeps the old left.
-    EXPECT_EQ(outcome(readPairAtOnce, calls[5]),
+    EXPECT_EQ(outcome(closure, calls[5]),
               "error= rect=1 2 3 4 colour=1 0 0 5 log=mutating.alpha left=99");
     // The rect is stored before the colour read raises.
-    EXPECT_EQ(outcome(readPairAtOnce, calls[6]),
+    EXPECT_EQ(outcome(closure, calls[6]),
               "error=index ran rect=2 1 4 3 colour=-7 -7 -7 -7 log=raising.green raising.blue "
               "left=1");
-    EXPECT_THAT(outcome(readPairAtOnce, calls[7]),
+    EXPECT_THAT(outcome(closure, calls[7]),
                 ::testing::HasSubstr("bad argument #-1 to 'readPair' (number expected, got nil) "
                                      "rect=-7 -7 -7 -7 colour=-7 -7 -7 -7"));
-    EXPECT_THAT(outcome(readPairAtOnce, calls[9]),
+    EXPECT_THAT(outcome(closure, calls[9]),
                 ::testing::HasSubstr("(number expected, got boolean) rect=1 2 3 4 colour=-7"));
-    EXPECT_THAT(outcome(readPairAtOnce, calls[11]),
+    EXPECT_THAT(outcome(closure, calls[11]),
                 ::testing::HasSubstr("bad argument #2 to 'readPair' (table expected, got string)"));
-    EXPECT_THAT(outcome(readPairAtOnce, calls[14]),
+    EXPECT_THAT(outcome(closure, calls[14]),
                 ::testing::HasSubstr("bad argument #2 to 'readPair' (table expected, got nil) "
                                      "rect=-7 -7 -7 -7"));
-    EXPECT_EQ(outcome(readPairAtOnce, calls[16]),
+    EXPECT_EQ(outcome(closure, calls[16]),
               "error= rect=-7 -7 -7 -7 colour=-7 -7 -7 -7 log= left=1");
-    EXPECT_EQ(outcome(readPairAtOnce, calls[17]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
-    EXPECT_EQ(outcome(readPairAtOnce, calls[18]),
+    EXPECT_EQ(outcome(closure, calls[17]), "error= rect=1 2 3 4 colour=1 0 0 1 log= left=1");
+    EXPECT_EQ(outcome(closure, calls[18]),
               "error= rect=-7 -7 -7 -7 colour=-7 -7 -7 -7 log= left=1");
 }
 

@@ -443,6 +443,45 @@ TEST_F(SurfaceApiTest, AnObjectReleasedWhileTheTablesAreReadIsLookedAtAgain) {
     EXPECT_TRUE(mCanvas.isClear(1, 1));
 }
 
+// The methods that read a rect and a colour are closures over the field names, so a draw
+// loop pushes no key table; the rest are plain functions. Reads are the readers' either way.
+TEST_F(SurfaceApiTest, RectAndColourMethodsKeepTheFieldNamesAsUpvalues) {
+    // The upvalues of a method of the surface metatable, read from C (Lua's debug library
+    // does not show a C function's).
+    const auto upvalues = [this](const char* method) {
+        luaL_getmetatable(L, "zeblua.zebSurfaceInterface");
+        lua_getfield(L, -1, method);
+        std::string names;
+        for (int i = 1; lua_getupvalue(L, -1, i); ++i) {
+            names += std::string(i > 1 ? " " : "") + lua_tostring(L, -1);
+            lua_pop(L, 1);
+        }
+        lua_pop(L, 2);
+        return names;
+    };
+    for (const char* method : {"PaintRect", "DrawOutline", "DrawRoundedFill"})
+        EXPECT_EQ(upvalues(method), "top left height width red green blue alpha") << method;
+    for (const char* method : {"DrawString", "IsWithinClipBounds", "FillPath"})
+        EXPECT_EQ(upvalues(method), "") << method;
+    EXPECT_EQ(luaValue("getmetatable(deadSurface).PaintRect == deadSurface.PaintRect"), "true");
+
+    runLua(R"(
+        function case(ink)
+            local s = ink:GetSurface()
+            local indexed = setmetatable({red = 0, green = 0, blue = 1},
+                                         {__index = function(_, key) return key == 'alpha' and 1 end})
+            s:PaintRect({left = 0, top = 0, width = 2, height = 2}, red)
+            s:PaintRect({left = '2', top = 0, width = 2, height = 2}, indexed)
+            s:DrawRoundedFill(rect(4, 0, 2, 2), red, 0)
+        end
+    )");
+    draw(mCanvas.inkwell, "case");
+    EXPECT_EQ(mCanvas.surface->ReadPixel(1, 1), kRedPixel);
+    EXPECT_EQ(mCanvas.surface->ReadPixel(3, 1), kBluePixel);
+    EXPECT_EQ(mCanvas.surface->ReadPixel(5, 1), kRedPixel);
+    EXPECT_TRUE(mCanvas.isClear(7, 1));
+}
+
 // A Lua memory error at any step of GetSurfaceImage loses no image: the proxy is pushed
 // before the surface hands out the image's reference. LeakSanitizer checks what is left.
 TEST_F(SurfaceApiTest, AMemoryErrorInGetSurfaceImageLosesNoImage) {

@@ -65,18 +65,20 @@ bool tableToRead(lua_State* L, int index) {
     return !lua_isnil(L, -1);
 }
 
-// The raw values of the fields, when every one converts as luaL_checknumber converts it.
-// __index runs only for an absent key, so then lua_gettable would have given the same values
-// and run no script, in any order. False when one does not: the caller reads again the full
-// way, with its __index order and its errors. The values are left on the stack above keys,
-// for the caller to drop with lua_settop(L, keys). A zero is taken only from a number: a
-// string that converts to 0 goes the full way, which converts it the same, so that a value
-// costs one lua_tonumber and rarely a lua_type.
-template <std::size_t N>
-bool rawNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
-                lua_Number (&values)[N]) {
+// The raw values of the fields, when every one converts as luaL_checknumber converts it;
+// pushKey(i) pushes the name of field i. __index runs only for an absent key, so then
+// lua_gettable would have given the same values and run no script, in any order. False when
+// one does not: the caller reads again the full way, with its __index order and its errors.
+// The values are left on the stack for the caller to drop. A zero is taken only from a
+// number: a string that converts to 0 goes the full way, which converts it the same, so that
+// a value costs one lua_tonumber and rarely a lua_type.
+template <std::size_t N, class PushKey>
+bool rawNumbers(lua_State* L, int index, PushKey pushKey, lua_Number (&values)[N]) {
+    // Unrolled, each field's zero test is a branch of its own, which a draw loop that meets
+    // the same tables again predicts.
+#pragma GCC unroll 4
     for (std::size_t i = 0; i < N; ++i) {
-        lua_rawgeti(L, keys, fields[i]);
+        pushKey(i);
         lua_rawget(L, index);
         values[i] = lua_tonumber(L, -1);
         if (values[i] == 0 && lua_type(L, -1) != LUA_TNUMBER) return false;
@@ -89,15 +91,18 @@ bool rawNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
 template <std::size_t N>
 void readNumbers(lua_State* L, int index, int keys, const Key (&fields)[N],
                  lua_Number (&values)[N]) {
-    const bool raw = rawNumbers(L, index, keys, fields, values);
+    const bool raw = rawNumbers(
+        L, index, [&](std::size_t i) { lua_rawgeti(L, keys, fields[i]); }, values);
     lua_settop(L, keys);
     if (raw) return;
     for (std::size_t i = 0; i < N; ++i)
         values[i] = CheckNumberField(L, index, keys, fields[i]);
 }
 
+// The pair readers' fields: the rect's in its order, then the colour's.
 const Key kRectFields[] = {kTop, kLeft, kHeight, kWidth};
 const Key kColourFields[] = {kRed, kGreen, kBlue, kAlpha};
+constexpr int kPairFieldCount = 8;
 
 RectT<float> rectFrom(const lua_Number (&v)[4]) { /* top, left, height, width */
     return RectT<float>(static_cast<float>(v[1]), static_cast<float>(v[0]),
@@ -107,6 +112,34 @@ RectT<float> rectFrom(const lua_Number (&v)[4]) { /* top, left, height, width */
 ColorRGBA colourFrom(const lua_Number (&v)[4]) {
     return ColorRGBA(static_cast<float>(v[0]), static_cast<float>(v[1]), static_cast<float>(v[2]),
                      static_cast<float>(v[3]));
+}
+
+// Both tables, and a top that is not nil (as the colour is when it is the top), is what lets
+// each reader on its own go on to read its fields. Raises no Lua error.
+bool pairToRead(lua_State* L, int rectIndex, int colourIndex) {
+    return lua_type(L, rectIndex) == LUA_TTABLE && lua_type(L, colourIndex) == LUA_TTABLE &&
+           (lua_gettop(L) == colourIndex || !lua_isnil(L, -1));
+}
+
+// The raw pass of the pair readers, the name of pair field i (0 to 7) pushed by
+// pushKey(i): either it gives what the two readers would give, running nothing, or it
+// hands over to them unchanged. Leaves the stack as it found it; its stack holds at most
+// four values, as each reader's.
+template <class PushKey>
+bool rawPair(lua_State* L, int rectIndex, int colourIndex, PushKey pushKey, RectT<float>& rect,
+             ColorRGBA& colour) {
+    const int top = lua_gettop(L);
+    lua_Number r[4];
+    lua_Number c[4];
+    bool raw = rawNumbers(L, rectIndex, pushKey, r);
+    lua_settop(L, top);
+    raw = raw && rawNumbers(
+                     L, colourIndex, [&](std::size_t i) { pushKey(4 + i); }, c);
+    lua_settop(L, top);
+    if (!raw) return false;
+    rect = rectFrom(r);
+    colour = colourFrom(c);
+    return true;
 }
 
 // CheckNumberField's form with luaL_checkinteger and lua_tointeger.
@@ -196,27 +229,42 @@ void GetColorRGBAFromLua(lua_State* L, int index, ColorRGBA& colour) {
     colour = colourFrom(v);
 }
 
-// Both tables, and a top that is not nil, is what lets each reader on its own go on to read
-// its fields; the raw pass then either gives what those reads would give, running nothing,
-// or hands over to them unchanged. A draw path pays for one key table and no table check
-// per field, and its stack holds at most the key table and four values, as each reader's.
 void GetRectAndColorFromLua(lua_State* L, int rectIndex, int colourIndex, RectT<float>& rect,
                             ColorRGBA& colour) {
-    if (lua_type(L, rectIndex) == LUA_TTABLE && lua_type(L, colourIndex) == LUA_TTABLE &&
-        !lua_isnil(L, -1)) {
+    if (pairToRead(L, rectIndex, colourIndex)) {
         const int keys = sKeys.Push(L);
-        lua_Number r[4];
-        lua_Number c[4];
-        bool raw = rawNumbers(L, rectIndex, keys, kRectFields, r);
-        lua_settop(L, keys);
-        raw = raw && rawNumbers(L, colourIndex, keys, kColourFields, c);
-        lua_settop(L, keys - 1);
-        if (raw) {
-            rect = rectFrom(r);
-            colour = colourFrom(c);
-            return;
-        }
+        const bool raw = rawPair(
+            L, rectIndex, colourIndex,
+            [&](std::size_t i) {
+                lua_rawgeti(L, keys, i < 4 ? kRectFields[i] : kColourFields[i - 4]);
+            },
+            rect, colour);
+        lua_pop(L, 1);
+        if (raw) return;
     }
+    GetRectF32FromLua(L, rectIndex, rect);
+    GetColorRGBAFromLua(L, colourIndex, colour);
+}
+
+int PushRectAndColorKeys(lua_State* L) {
+    lua_checkstack(L, kPairFieldCount + 2);
+    const int keys = sKeys.Push(L);
+    for (const Key key : kRectFields)
+        lua_rawgeti(L, keys, key);
+    for (const Key key : kColourFields)
+        lua_rawgeti(L, keys, key);
+    lua_remove(L, keys);
+    return kPairFieldCount;
+}
+
+void GetRectAndColorFromUpvalues(lua_State* L, int rectIndex, int colourIndex, RectT<float>& rect,
+                                 ColorRGBA& colour) {
+    if (pairToRead(L, rectIndex, colourIndex) &&
+        rawPair(
+            L, rectIndex, colourIndex,
+            [L](std::size_t i) { lua_pushvalue(L, lua_upvalueindex(static_cast<int>(i) + 1)); },
+            rect, colour))
+        return;
     GetRectF32FromLua(L, rectIndex, rect);
     GetColorRGBAFromLua(L, colourIndex, colour);
 }

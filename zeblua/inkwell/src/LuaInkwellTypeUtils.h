@@ -29,6 +29,15 @@ void GetColorRGBAFromLua(lua_State* L, int index, zebui::inkwell::ColorRGBA& col
 // are taken in one pass that pushes the key table once.
 void GetRectAndColorFromLua(lua_State* L, int rectIndex, int colourIndex,
                             zebcore::geom::RectT<float>& rect, zebui::inkwell::ColorRGBA& colour);
+// The same for a C closure that keeps the eight field names as its upvalues 1 to 8, so that
+// not even the key table is pushed (a draw method that runs for every shape):
+//   lua_pushcclosure(L, paintRect, PushRectAndColorKeys(L));
+// PushRectAndColorKeys pushes the names and returns 8; it raises only Lua's memory error.
+// GetRectAndColorFromUpvalues called from a function without upvalues reads the full way.
+int PushRectAndColorKeys(lua_State* L);
+void GetRectAndColorFromUpvalues(lua_State* L, int rectIndex, int colourIndex,
+                                 zebcore::geom::RectT<float>& rect,
+                                 zebui::inkwell::ColorRGBA& colour);
 // The table's row tables are walked in lua_next order, and in each the values for which
 // lua_isnumber holds (numeric strings too) are taken; anything else is skipped. Unless
 // that gives exactly nine numbers, the report "matData.size() == 9" is made and the Lua

@@ -261,9 +261,10 @@ int surfaceMeasureStringWidth(lua_State* L) {
     return 1;
 }
 
-// The rect at argument 2 and the colour at argument 3, read in that order.
+// The rect at argument 2 and the colour at argument 3, read in that order. The methods that
+// call it are closures over the field names (see kRectAndColourMethods).
 void readRectAndColour(lua_State* L, RectT<float>& rect, ColorRGBA& colour) {
-    GetRectAndColorFromLua(L, 2, 3, rect, colour);
+    GetRectAndColorFromUpvalues(L, 2, 3, rect, colour);
 }
 
 // -- surface:PaintRect(rect, colour)
@@ -533,6 +534,15 @@ const luaL_Reg kSurfaceMethods[] = {
     {nullptr, nullptr},
 };
 
+// Methods that read a rect and a colour on every call: luaopen replaces each, in its place
+// in the metatable, by a closure that keeps the field names as upvalues.
+const luaL_Reg kRectAndColourMethods[] = {
+    {"PaintRect", surfacePaintRect},
+    {"DrawOutline", surfaceDrawOutline},
+    {"DrawRoundedFill", surfaceDrawRoundedFill},
+    {nullptr, nullptr},
+};
+
 }  // namespace
 
 InkwellProxy* zeblua_checkSurface(lua_State* L, int index) {
@@ -549,7 +559,11 @@ int luaopen_zebSurfaceInterface(lua_State* L) {
     using utility::SetIntegerConstant;
     namespace ink = zebui::inkwell;
     utility::RegisterClassModule(L, kZebLuaSurfaceMetaTableName, kSurfaceMethods,
-                                 kZebLuaSurfaceClassName, kSurfaceFunctions);
+                                 kZebLuaSurfaceClassName, kSurfaceFunctions); /* mt, library */
+    for (const luaL_Reg* method = kRectAndColourMethods; method->name; ++method) {
+        lua_pushcclosure(L, method->func, PushRectAndColorKeys(L));
+        lua_setfield(L, -3, method->name);
+    }
     SetIntegerConstant(L, "kAntiAliasPolicy_None", ink::kAntiAliasPolicy_None);
     SetIntegerConstant(L, "kAntiAliasPolicy_Med", ink::kAntiAliasPolicy_Med);
     SetIntegerConstant(L, "kAntiAliasPolicy_High", ink::kAntiAliasPolicy_High);
