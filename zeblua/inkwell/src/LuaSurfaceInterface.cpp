@@ -546,8 +546,10 @@ const luaL_Reg kRectAndColourMethods[] = {
 }  // namespace
 
 InkwellProxy* zeblua_checkSurface(lua_State* L, int index) {
-    CheckDrawingProxy(L, index, DrawingKind::kSurface);
-    return SurfaceRecordAt(L, index);
+    void* block = CheckDrawingProxy(L, index, DrawingKind::kSurface);
+    // A full userdata is its record; only a light one, a bare address, is looked up.
+    if (lua_type(L, index) == LUA_TLIGHTUSERDATA) return SurfaceRecordAt(L, index);
+    return static_cast<InkwellProxy*>(block);
 }
 
 bool SurfaceInScope(const InkwellProxy* proxy) {
