@@ -1,13 +1,18 @@
 // zebString: byte positions, regular expressions, Unicode conversions and the silent rows.
+#include <cctype>
+#include <locale>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include <boost/regex.hpp>
 #include <gmock/gmock.h>
 #include <lua.hpp>
 
 #include "tests/LuaTestFixture.h"
 #include "zebcore/config/Localizer.h"
+#include "zeblua/string/src/SimplePattern.h"
 #include "zeblua/string/src/ZebString.h"
 
 using ::testing::HasSubstr;
@@ -227,10 +232,9 @@ TEST_F(ZebStringTest, ABadPatternIsALuaErrorThatLeavesTheStateUsable) {
     EXPECT_EQ(results("S.MatchB('abc', 'c')"), "3,4");
 }
 
-// Patterns are kept once compiled, a few at a time, by all their bytes and the global
-// locale: a bad one raises at every call, one pushed out by many others answers the same
-// when it comes back, and patterns that differ only after a zero byte (the expression ends
-// there) each answer as that expression does.
+// Patterns are kept once compiled, a few at a time, by all their bytes: a bad one raises at every
+// call, one pushed out by many others answers the same when it comes back, and patterns that differ
+// only after a zero byte (the expression ends there) each answer as that expression does.
 TEST_F(ZebStringTest, KeptPatternsAnswerAsFreshlyCompiledOnes) {
     for (int call = 0; call < 3; ++call)
         EXPECT_THAT(luaError("S.MatchB('abc', '(')"), StartsWith("test:1: MatchB: ")) << call;
@@ -292,4 +296,257 @@ TEST_F(ZebStringTest, ReplaceBBoundsTheWholeCallAsMatchBBoundsOneSearch) {
     EXPECT_EQ(
         luaValue("S.ReplaceB(long, 'a*?b|a', 'x', 37990) == long:sub(1, 37989) .. 'xxxxxxxxxxx'"),
         "true");
+}
+
+namespace {
+
+using zeblua::string::ByteSet;
+using zeblua::string::RegexMatch;
+using zeblua::string::SimplePattern;
+using ByteRegex =
+    boost::basic_regex<char, boost::regex_traits<char, boost::cpp_regex_traits<char>>>;
+
+ByteRegex classicRegex(const std::string& expression) {
+    ByteRegex regex;
+    regex.imbue(std::locale::classic());
+    regex.assign(expression);
+    return regex;
+}
+
+// The bytes an atom takes, asked byte by byte: another way than the library's.
+ByteSet bytesMatchedOneByOne(std::string_view atom) {
+    const ByteRegex regex = classicRegex(std::string(atom));
+    ByteSet bytes{};
+    for (int value = 0; value < 256; ++value) {
+        const char byte = static_cast<char>(value);
+        if (boost::regex_match(&byte, &byte + 1, regex))
+            bytes[value / 64] |= std::uint64_t(1) << (value % 64);
+    }
+    return bytes;
+}
+
+std::string shown(bool found, const RegexMatch& match) {
+    return found ? std::to_string(match.begin) + "," + std::to_string(match.end) : "nil";
+}
+
+// Random patterns of the atoms and quantifiers a simple pattern is made of, and texts of
+// the bytes those atoms tell apart.
+struct PatternMaker {
+    std::mt19937 random{20261123};
+
+    std::string pick(const std::vector<std::string>& from) {
+        return from[std::uniform_int_distribution<std::size_t>(0, from.size() - 1)(random)];
+    }
+    std::string pattern() {
+        static const std::vector<std::string> kAtoms = {
+            "a",    "b",    "c",     ".",   "\\d", "\\s", "\\w",    "\\W", "\\S",  "\\D",
+            "[ab]", "[^a]", "[a-c]", "\\.", "-",   " ",   "[\\d.]", "\\-", "\xC3", "[^\\s]"};
+        static const std::vector<std::string> kQuantifiers = {"", "", "*", "+", "?"};
+        std::string made;
+        for (int atoms = std::uniform_int_distribution<int>(1, 4)(random); atoms > 0; --atoms)
+            made += pick(kAtoms) + pick(kQuantifiers);
+        return made;
+    }
+    std::string text() {
+        static const std::string kBytes = "abc .1-_\n\t\xC3\xA9";
+        std::string made;
+        for (int length = std::uniform_int_distribution<int>(0, 10)(random); length > 0; --length)
+            made +=
+                kBytes[std::uniform_int_distribution<std::size_t>(0, kBytes.size() - 1)(random)];
+        return made;
+    }
+};
+
+// The results of zebString.<function>(...) as pack shows them, the values given as Lua
+// strings and integers; an error as "!" and its message.
+std::string callPacked(lua_State* L, const char* function, const std::string& s,
+                       const std::string& pattern, const std::string* replacement, int pos,
+                       bool all) {
+    const int top = lua_gettop(L);
+    lua_getglobal(L, "zebString");
+    lua_getfield(L, -1, function);
+    lua_remove(L, -2);
+    lua_pushlstring(L, s.data(), s.size());
+    lua_pushlstring(L, pattern.data(), pattern.size());
+    if (replacement) lua_pushlstring(L, replacement->data(), replacement->size());
+    lua_pushinteger(L, pos);
+    if (replacement) lua_pushboolean(L, all);
+    std::string packed;
+    if (lua_pcall(L, lua_gettop(L) - top - 1, LUA_MULTRET, 0) != 0) {
+        packed = std::string("!") + lua_tostring(L, -1);
+    } else {
+        for (int index = top + 1; index <= lua_gettop(L); ++index) {
+            if (index > top + 1) packed += ",";
+            packed += lua_isnil(L, index) ? "nil" : lua_tostring(L, index);
+        }
+    }
+    lua_settop(L, top);
+    return packed;
+}
+
+}  // namespace
+
+// A pattern of single-byte atoms is searched without the general matcher: it must answer
+// as that matcher does, also after an empty match (no empty match at the start then), and
+// its byte classes must be the matcher's own. The reference here is Boost itself.
+TEST(ZebStringSimplePattern, SearchesAnswerAsTheGeneralMatcherDoes) {
+    PatternMaker maker;
+    int readPatterns = 0;
+    for (int round = 0; round < 400; ++round) {
+        const std::string expression = maker.pattern();
+        SimplePattern simple;
+        ASSERT_TRUE(simple.Read(expression, bytesMatchedOneByOne)) << expression;
+        ++readPatterns;
+        const ByteRegex regex = classicRegex(expression);
+        for (int textRound = 0; textRound < 20; ++textRound) {
+            const std::string text = maker.text();
+            for (bool afterEmpty : {false, true}) {
+                const auto flags = afterEmpty ? boost::regex_constants::match_not_initial_null
+                                              : boost::regex_constants::match_default;
+                boost::cmatch found;
+                const bool boostFound = boost::regex_search(text.data(), text.data() + text.size(),
+                                                            found, regex, flags);
+                RegexMatch expected{};
+                if (boostFound) {
+                    expected.begin = found[0].first - text.data();
+                    expected.end = found[0].second - text.data();
+                }
+                std::ptrdiff_t steps = 1 << 20;
+                RegexMatch match{};
+                const auto outcome =
+                    simple.Search(text.data(), text.data() + text.size(), afterEmpty, steps, match);
+                ASSERT_NE(outcome, SimplePattern::Outcome::kTooMuchWork) << expression;
+                EXPECT_EQ(shown(outcome == SimplePattern::Outcome::kMatch, match),
+                          shown(boostFound, expected))
+                    << "/" << expression << "/ in \"" << text << "\" after empty " << afterEmpty;
+            }
+        }
+    }
+    EXPECT_EQ(readPatterns, 400);
+}
+
+// Anything else is not read, and so goes to the general matcher: groups, alternatives,
+// counted, lazy and possessive repeats, anchors, references, nested brackets, escapes of
+// sequences and codes.
+TEST(ZebStringSimplePattern, ReadsOnlySequencesOfSingleByteAtoms) {
+    for (const char* expression :
+         {"",   "(a)",    "a|b",  "a{2}", "a{",  "a*?",     "a++",   "a**",  "*a",          "^a",
+          "a$", "\\bx",   "\\Ax", "a\\z", "\\1", "\\Qa\\E", "\\x41", "\\<a", "[[:alpha:]]", "[]a]",
+          "[a", "[a\\b]", "a]",   "a}",   "\\",  "\\n",     "(?i)a"}) {
+        SimplePattern simple;
+        EXPECT_FALSE(simple.Read(expression, bytesMatchedOneByOne)) << expression;
+    }
+    SimplePattern simple;
+    EXPECT_TRUE(simple.Read("b[a-z]+n\\.?[^,]*\\d", bytesMatchedOneByOne));
+    // Each step spends one; none left is an answer of its own, not a wrong "no match".
+    std::ptrdiff_t steps = 3;
+    RegexMatch match{};
+    const std::string text = "xxxxbrown.,1";
+    EXPECT_EQ(simple.Search(text.data(), text.data() + text.size(), false, steps, match),
+              SimplePattern::Outcome::kTooMuchWork);
+}
+
+// The same through zebString, where a pattern's second and later calls take the simple
+// form: MatchB and ReplaceB from random positions, replacing all or the first match only.
+TEST_F(ZebStringTest, RepeatedSimplePatternsAnswerAsBoostDoes) {
+    PatternMaker maker;
+    const std::string replacement = "<>";
+    for (int round = 0; round < 60; ++round) {
+        const std::string expression = maker.pattern();
+        const ByteRegex regex = classicRegex(expression);
+        for (int textRound = 0; textRound < 12; ++textRound) {
+            std::string text = maker.text();
+            if (text.empty()) text = "a";
+            const int pos = 1 + std::uniform_int_distribution<int>(
+                                    0, static_cast<int>(text.size()) - 1)(maker.random);
+            const char* first = text.data() + pos - 1;
+            const char* last = text.data() + text.size();
+            boost::cmatch found;
+            const std::string expectedMatch =
+                boost::regex_search(first, last, found, regex)
+                    ? std::to_string(pos + (found[0].first - first)) + "," +
+                          std::to_string(pos + (found[0].second - first))
+                    : "nil";
+            EXPECT_EQ(callPacked(L, "MatchB", text, expression, nullptr, pos, true), expectedMatch)
+                << "/" << expression << "/ in \"" << text << "\" from " << pos;
+            for (bool all : {true, false}) {
+                const std::string expected =
+                    text.substr(0, pos - 1) +
+                    boost::regex_replace(std::string(first, last), regex, replacement,
+                                         all ? boost::regex_constants::format_default
+                                             : boost::regex_constants::format_first_only);
+                EXPECT_EQ(callPacked(L, "ReplaceB", text, expression, &replacement, pos, all),
+                          expected)
+                    << "/" << expression << "/ in \"" << text << "\" from " << pos << " all "
+                    << all;
+            }
+        }
+    }
+}
+
+// Where the simple form would take long, the general matcher decides, complexity bound
+// included; and a kept pattern is its expression only, up to its first zero byte.
+TEST_F(ZebStringTest, SimpleFormsLeaveLongWorkAndTrailingBytesAlone) {
+    runLua("many = string.rep('a', 60)");
+    for (int call = 0; call < 3; ++call) {
+        EXPECT_THAT(luaError("S.MatchB(many, 'a*a*a*a*c')"),
+                    HasSubstr("MatchB: The complexity of matching the regular expression exceeded"))
+            << call;
+        EXPECT_EQ(results("S.MatchB('abc', 'b\\0c')"), "2,3") << call;
+        EXPECT_EQ(results("S.ReplaceB('abcb', 'b\\0c', 'x')"), "axcx") << call;
+        EXPECT_EQ(results("S.MatchB(many .. 'c', 'a*a*a*a*c')"), "1,62") << call;
+    }
+    // Long inner white space makes Trim's trailing search long: the matcher takes it.
+    EXPECT_EQ(luaValue("S.Trim(' x' .. string.rep(' ', 300) .. 'y\\t') == 'x' .. "
+                       "string.rep(' ', 300) .. 'y'"),
+              "true");
+}
+
+namespace {
+
+// A ctype that also counts 0x85 and 0xA0 as space and 0xE0 as a letter, as a host's
+// single-byte locale might.
+class WiderClassesCtype : public std::ctype<char> {
+public:
+    WiderClassesCtype() : std::ctype<char>(table()) {}
+
+private:
+    static const mask* table() {
+        static const std::vector<mask> sTable = [] {
+            std::vector<mask> wider(classic_table(), classic_table() + table_size);
+            wider[0x85] |= space;
+            wider[0xA0] |= space;
+            wider[0xE0] |= alpha | lower;
+            return wider;
+        }();
+        return sTable.data();
+    }
+};
+
+class GlobalLocale {
+public:
+    explicit GlobalLocale(const std::locale& locale) : mPrevious(std::locale::global(locale)) {}
+    ~GlobalLocale() { std::locale::global(mPrevious); }
+
+private:
+    std::locale mPrevious;
+};
+
+}  // namespace
+
+// Patterns are compiled with the classic locale: a global locale that a host sets changes
+// no class, so "\s" never takes a byte of a UTF-8 character ("\xC3\xA0" is "a" with grave,
+// "\xC3\x85" is "A" with ring), before or after the pattern was first kept.
+TEST_F(ZebStringTest, AHostsGlobalLocaleChangesNoPatternsMeaning) {
+    EXPECT_EQ(results("S.MatchB('a\\195\\160b', '\\\\s')"), "nil");
+    const GlobalLocale wider(std::locale(std::locale::classic(), new WiderClassesCtype));
+    ASSERT_TRUE(std::isspace('\xA0', std::locale()));  // the locale would change a class
+    for (int call = 0; call < 2; ++call) {
+        expectResults({{"S.MatchB('a\\195\\160b', '\\\\s')", "nil"},
+                       {"S.MatchB('a\\195\\133 b', '[\\\\s]+')", "4,5"},
+                       {"S.MatchB('\\224', '\\\\w')", "nil"},
+                       {"S.ReplaceB('x\\160y', '\\\\s', '_')", "x\xA0y"},
+                       {"S.Trim(' \\195\\160')", "\xC3\xA0"},
+                       {"S.Trim('\\195\\133 ')", "\xC3\x85"}});
+    }
 }

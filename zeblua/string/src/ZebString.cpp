@@ -176,17 +176,9 @@ int strSubstringB(lua_State* L) {
 
 // -- trimmed = zebString.Trim(s)
 int strTrim(lua_State* L) {
-    const char* s = luaL_checkstring(L, 1);
-    const char* first = s;
-    const char* last = s + std::strlen(s);
-    utility::RunNative(L, "Trim", [&] {
-        RegexMatch leading{};
-        SearchRegex("\\A[\\s]*", s, last, leading);
-        first = s + leading.end;
-        RegexMatch trailing{};
-        SearchRegex("[\\s]*\\z", first, last, trailing);
-        last = first + trailing.begin;
-    });
+    const char* first = luaL_checkstring(L, 1);
+    const char* last = first + std::strlen(first);
+    utility::RunNative(L, "Trim", [&] { TrimWhiteSpace(first, last); });
     lua_pushlstring(L, first, static_cast<size_t>(last - first));
     return 1;
 }
@@ -201,8 +193,10 @@ int strMatchB(lua_State* L) {
     const int pos = GetOptionalOneBasedPos(L, 3, positionLength(length), "MatchB", 1);
     return utility::RunNative(L, "MatchB", [&] {
         const char* first = s + pos - 1;
+        // The search ends at the first zero byte; Lua's own one follows the last byte.
+        const char* last = static_cast<const char*>(std::memchr(first, 0, length - (pos - 1)));
         RegexMatch match{};
-        if (!SearchRegex({pattern, patternLength}, first, first + std::strlen(first), match)) {
+        if (!SearchRegex({pattern, patternLength}, first, last ? last : s + length, match)) {
             lua_pushnil(L);
             return 1;
         }

@@ -35,8 +35,10 @@ void dropFrom(std::uintptr_t frame) {
 }
 
 // The innermost Lua function's place: a binding is a C function, and one called through
-// pcall has pcall, another, between it and the script.
-void readPlace(lua_State* L, Record& record) {
+// pcall has pcall, another, between it and the script. Out of line, so that the guard's
+// common path (a remembered main thread, read only if a report asks) carries no lua_Debug
+// frame.
+[[gnu::noinline]] void readPlace(lua_State* L, Record& record) {
     record.line = -1;
     lua_Debug ar;
     for (int level = 0; lua_getstack(L, level, &ar); ++level) {
