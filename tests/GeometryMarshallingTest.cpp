@@ -50,10 +50,6 @@ int readMatrix(lua_State* L) {
     return 0;
 }
 // readPair(rect, colour [, more]): the pair reader, or the two readers it stands for.
-int readPairAtOnce(lua_State* L) {
-    GetRectAndColorFromLua(L, 1, 2, sRect, sColour);
-    return 0;
-}
 int readPairFromUpvalues(lua_State* L) {
     GetRectAndColorFromUpvalues(L, 1, 2, sRect, sColour);
     return 0;
@@ -275,7 +271,6 @@ TEST_F(GeometryMarshallingTest, PairReaderActsAsTheRectReaderThenTheColourReader
         lua_pushcclosure(state, readPairFromUpvalues, PushRectAndColorKeys(state));
     };
     const auto bare = [](lua_State* state) { lua_pushcfunction(state, readPairFromUpvalues); };
-    const auto atOnce = [](lua_State* state) { lua_pushcfunction(state, readPairAtOnce); };
     const auto oneByOne = [](lua_State* state) { lua_pushcfunction(state, readPairOneByOne); };
     const auto outcome = [this](void (*pushReader)(lua_State*), const std::string& call) {
         resetTargets();
@@ -288,7 +283,6 @@ TEST_F(GeometryMarshallingTest, PairReaderActsAsTheRectReaderThenTheColourReader
     };
     for (const char* call : calls) {
         const std::string expected = outcome(oneByOne, call);
-        EXPECT_EQ(outcome(atOnce, call), expected) << call;
         EXPECT_EQ(outcome(closure, call), expected) << call;
         EXPECT_EQ(outcome(bare, call), expected) << call;
     }

@@ -229,23 +229,6 @@ void GetColorRGBAFromLua(lua_State* L, int index, ColorRGBA& colour) {
     colour = colourFrom(v);
 }
 
-void GetRectAndColorFromLua(lua_State* L, int rectIndex, int colourIndex, RectT<float>& rect,
-                            ColorRGBA& colour) {
-    if (pairToRead(L, rectIndex, colourIndex)) {
-        const int keys = sKeys.Push(L);
-        const bool raw = rawPair(
-            L, rectIndex, colourIndex,
-            [&](std::size_t i) {
-                lua_rawgeti(L, keys, i < 4 ? kRectFields[i] : kColourFields[i - 4]);
-            },
-            rect, colour);
-        lua_pop(L, 1);
-        if (raw) return;
-    }
-    GetRectF32FromLua(L, rectIndex, rect);
-    GetColorRGBAFromLua(L, colourIndex, colour);
-}
-
 int PushRectAndColorKeys(lua_State* L) {
     lua_checkstack(L, kPairFieldCount + 2);
     const int keys = sKeys.Push(L);

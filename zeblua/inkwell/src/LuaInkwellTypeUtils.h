@@ -24,14 +24,11 @@ void GetRectF32FromLua(lua_State* L, int index, zebcore::geom::RectT<float>& rec
 void GetRect32FromLua(lua_State* L, int index, zebcore::geom::RectT<int>& rect);
 void GetColorRGBAFromLua(lua_State* L, int index, zebui::inkwell::ColorRGBA& colour);
 // GetRectF32FromLua at rectIndex, then GetColorRGBAFromLua at colourIndex: the same values,
-// errors and __index order, for the draw calls that take both. When both are tables whose
-// eight fields are all present numbers, no __index can run in either read, and then they
-// are taken in one pass that pushes the key table once.
-void GetRectAndColorFromLua(lua_State* L, int rectIndex, int colourIndex,
-                            zebcore::geom::RectT<float>& rect, zebui::inkwell::ColorRGBA& colour);
-// The same for a C closure that keeps the eight field names as its upvalues 1 to 8, so that
-// not even the key table is pushed (a draw method that runs for every shape):
+// errors and __index order, for the draw calls that take both, as C closures that keep the
+// eight field names as their upvalues 1 to 8 (a draw method that runs for every shape):
 //   lua_pushcclosure(L, paintRect, PushRectAndColorKeys(L));
+// When both are tables whose eight fields are all present numbers, no __index can run in
+// either read, and then they are taken in one raw pass that pushes nothing but the values.
 // PushRectAndColorKeys pushes the names and returns 8; it raises only Lua's memory error.
 // GetRectAndColorFromUpvalues called from a function without upvalues reads the full way.
 int PushRectAndColorKeys(lua_State* L);
