@@ -315,29 +315,43 @@ int absoluteIndex(lua_State* L, int index) {
     return index > 0 ? index : lua_gettop(L) + index + 1;
 }
 
-// The slot in the scope table of the metatable of the value at index when it is one of kind's
-// two, else 0. Raises no Lua error.
-int scopeTableMetatableSlot(lua_State* L, int index, DrawingKind kind) {
-    if (!lua_getmetatable(L, index)) return 0;
+// The slot of kind's metatable at that address, by the addresses taken with the scope
+// table's reference, or 0.
+int slotByAddress(const void* metatable, DrawingKind kind) {
+    for (const bool scoped : {true, false})
+        if (metatable == sMetatableAddresses[metatableSlot(kind, scoped)])
+            return metatableSlot(kind, scoped);
+    return 0;
+}
+
+// The slot of the metatable on top of the stack (popped) among kind's two in L's scope
+// table, when the table's reference is not kept for L: found by looking the table up,
+// which keeps the reference when L can. Raises no Lua error.
+int slotByLookup(lua_State* L, DrawingKind kind) {
     const void* metatable = lua_topointer(L, -1);
+    pushExistingScopeTable(L); /* mt, T */
     int matched = 0;
-    if (!sScopeTableReference.Holds(L)) {
-        pushExistingScopeTable(L); /* mt, T: takes the addresses when L can keep its reference */
+    if (sScopeTableReference.Holds(L)) {
+        matched = slotByAddress(metatable, kind);
+    } else if (lua_istable(L, -1)) {
         for (const bool scoped : {true, false}) {
-            if (sScopeTableReference.Holds(L) || !lua_istable(L, -1)) break;
             lua_rawgeti(L, -1, metatableSlot(kind, scoped));
             if (!matched && lua_rawequal(L, -1, -3)) matched = metatableSlot(kind, scoped);
             lua_pop(L, 1);
         }
-        lua_pop(L, 1);
     }
-    if (sScopeTableReference.Holds(L)) {
-        for (const bool scoped : {true, false})
-            if (metatable == sMetatableAddresses[metatableSlot(kind, scoped)])
-                matched = metatableSlot(kind, scoped);
-    }
-    lua_pop(L, 1);
+    lua_pop(L, 2);
     return matched;
+}
+
+// The slot in the scope table of the metatable of the value at index when it is one of kind's
+// two, else 0. Raises no Lua error.
+int scopeTableMetatableSlot(lua_State* L, int index, DrawingKind kind) {
+    if (!lua_getmetatable(L, index)) return 0;
+    if (!sScopeTableReference.Holds(L)) return slotByLookup(L, kind);
+    const void* metatable = lua_topointer(L, -1);
+    lua_pop(L, 1); /* the value at index keeps it alive */
+    return slotByAddress(metatable, kind);
 }
 
 }  // namespace
