@@ -83,9 +83,9 @@ int newProxyFromInkwell(lua_State* L, zebui::inkwell::Inkwell* inkwell, InkwellP
 // pushes that record's address as a light userdata with the surface metatable, which Lua
 // 5.1 then gives every light userdata in the state; a method call on it reaches the same
 // record. Otherwise a new record (inkwell null); not owned, it becomes parent's surface
-// proxy, is listed in the scope of inkwell and is held until that scope ends: in parent's
-// anchor slot when parent is a guard's, else in a registry table (an owned Inkwell's scope
-// ends when it is released). Owned: the caller adds the surface's reference. Raises Lua's
+// proxy, is listed in the scope of inkwell and is held until that scope ends: in the slot of
+// parent's depth when parent is a guard's, else in a registry table (an owned Inkwell's
+// scope ends when it is released). Owned: the caller adds the surface's reference. Raises Lua's
 // memory error; returns 0, pushing nothing, when the list could not grow.
 int newProxyFromSurface(lua_State* L, zebui::inkwell::Inkwell* inkwell,
                         zebui::inkwell::SurfaceInterface* surface, InkwellProxy* parent,
