@@ -5,7 +5,6 @@
 #include <lua.hpp>
 
 #include "tests/LuaTestFixture.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zeblua/ui/src/LuaUI_TabWell.h"
 #include "zebui/controls/UI_SplitterView.h"
 
@@ -19,15 +18,6 @@ protected:
     void SetUp() override {
         LuaTest::SetUp();
         runLua("require 'zeblua.zebcontrols'");
-    }
-
-    // The node of the wrapper in global name, held.
-    template <class T> boost::intrusive_ptr<T> node(const char* name) {
-        lua_getglobal(L, name);
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        boost::intrusive_ptr<T> found(dynamic_cast<T*>(wrapper->GetNode().get()));
-        lua_pop(L, 1);
-        return found;
     }
 
     // Three values of a native caller's own that no callback may touch.
@@ -49,7 +39,7 @@ protected:
 // its own frame leaves the proposal, and the caller's stack is as it was every time.
 TEST_F(ContainerFamilyTest, AValidatorAnswersANumberOrLeavesTheProposal) {
     runLua("splitter = zebcontrols.NewSplitterView()");
-    const boost::intrusive_ptr<UI_SplitterView> splitter = node<UI_SplitterView>("splitter");
+    const boost::intrusive_ptr<UI_SplitterView> splitter = nodeOf<UI_SplitterView>("splitter");
     const struct {
         const char* validator;
         float expected;
@@ -83,7 +73,7 @@ TEST_F(ContainerFamilyTest, TheActionFunctionGetsARectOnlyWhenThereIsOne) {
             calls = calls .. " "
         end)
     )");
-    const boost::intrusive_ptr<LuaUI_TabWell> well = node<LuaUI_TabWell>("well");
+    const boost::intrusive_ptr<LuaUI_TabWell> well = nodeOf<LuaUI_TabWell>("well");
     const zebcore::geom::RectT<int> rect(3, 0, 40, 20);
     pushSentinels();
     well->TabItemActionHook(zebui::controls::kTabItemAction_Click, 4, nullptr);

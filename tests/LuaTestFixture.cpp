@@ -5,6 +5,7 @@
 
 #include "host/src/Session.h"
 #include "zebcore/debug/Debug.h"
+#include "zeblua/ui/src/LuaControlWrapperBase.h"
 
 void LuaTest::SetUp() {
     zebcore::debug::ClearRecordedAssertReports();
@@ -84,4 +85,11 @@ void LuaTest::expectEndedWrapperAnswersNothing(const MethodRow& row) {
 
 void LuaTest::collectGarbage() {
     lua_gc(L, LUA_GCCOLLECT, 0);
+}
+
+zebui::ui::UI_Node* LuaTest::wrappedNode(const char* global) {
+    lua_getglobal(L, global);
+    zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
+    lua_pop(L, 1);
+    return wrapper ? wrapper->GetNode().get() : nullptr;
 }

@@ -3,9 +3,16 @@
 
 #include <string>
 
+#include <boost/intrusive_ptr.hpp>
 #include <gtest/gtest.h>
 
 struct lua_State;
+
+namespace zebui {
+namespace ui {
+class UI_Node;
+}  // namespace ui
+}  // namespace zebui
 
 // A row of a family's fault table: the script that makes a wrapper as w, and one call of a
 // method on it, "w:Name(args)".
@@ -29,6 +36,12 @@ protected:
     int resultCount(const std::string& expression);
     // A full collection cycle.
     void collectGarbage();
+    // The node of the control wrapper in the global name; null when the global holds none.
+    zebui::ui::UI_Node* wrappedNode(const char* global);
+    // That node as a T, held; null when there is none or it is no T.
+    template <class T> boost::intrusive_ptr<T> nodeOf(const char* global) {
+        return boost::intrusive_ptr<T>(dynamic_cast<T*>(wrappedNode(global)));
+    }
     // The row's call answers no value, and raises nothing, on a wrapper the script released
     // and on one it ended through its __gc.
     void expectEndedWrapperAnswersNothing(const MethodRow& row);

@@ -10,7 +10,6 @@
 
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zeblua/ui/src/LuaMultiColumnTree.h"
 #include "zeblua/ui/src/LuaMultiColumnTreeRow.h"
 #include "zebui/controls/UI_MultiColumnTree.h"
@@ -54,19 +53,10 @@ protected:
         LuaTest::TearDown();
     }
 
-    boost::intrusive_ptr<LuaMultiColumnTree> tree(const char* name) {
-        lua_getglobal(L, name);
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        boost::intrusive_ptr<LuaMultiColumnTree> found(
-            dynamic_cast<LuaMultiColumnTree*>(wrapper->GetNode().get()));
-        lua_pop(L, 1);
-        return found;
-    }
-
     // Drags w's selection from beta onto gamma of target and answers the bytes it carried.
     std::vector<unsigned char> dragSelection(const char* target) {
         std::vector<unsigned char> carried;
-        const auto dropTree = tree(target);
+        const auto dropTree = nodeOf<LuaMultiColumnTree>(target);
         dropTree->SetDropSupportCallback(
             boost::make_shared<Support::DropSupportCallback::element_type>(
                 [&](Support::DropAction action, Support::DropSupportData* data) {
@@ -97,7 +87,7 @@ protected:
 
     std::vector<std::string> rowIds(const char* name, const std::vector<unsigned char>& bytes) {
         std::vector<zc::UI_MultiColumnTreeRow*> rows;
-        tree(name)->GetRowsBeingDragged(bytes, rows);
+        nodeOf<LuaMultiColumnTree>(name)->GetRowsBeingDragged(bytes, rows);
         std::vector<std::string> ids;
         for (zc::UI_MultiColumnTreeRow* row : rows)
             ids.push_back(static_cast<zeblua::ui::LuaMultiColumnTreeRow*>(row)->GetID());
@@ -163,7 +153,7 @@ TEST_F(MultiColumnTreeDragTest, TheDropFunctionsAnswersReachTheToolkitsRecord) {
         {"return true, setmetatable({}, { __index = function() error('read') end })", true, 8, true,
          true, 8},
     };
-    const auto w = tree("w");
+    const auto w = nodeOf<LuaMultiColumnTree>("w");
     zdt::OS_ReceiveData received;
     for (const DropRow& row : rows) {
         runLua(std::string("w:BindZebOperation('mctDropSupport', function() ") + row.function +

@@ -9,7 +9,6 @@
 
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zeblua/ui/src/LuaMultiColumnTree.h"
 #include "zeblua/ui/src/LuaMultiColumnTreeRow.h"
 #include "zebui/controls/UI_MultiColumnTree.h"
@@ -26,15 +25,6 @@ protected:
     void SetUp() override {
         LuaTest::SetUp();
         runLua("C = require 'zeblua.zebcontrols'");
-    }
-
-    boost::intrusive_ptr<LuaMultiColumnTree> tree(const char* name) {
-        lua_getglobal(L, name);
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        boost::intrusive_ptr<LuaMultiColumnTree> found(
-            dynamic_cast<LuaMultiColumnTree*>(wrapper->GetNode().get()));
-        lua_pop(L, 1);
-        return found;
     }
 
     void pushSentinels() {
@@ -189,7 +179,7 @@ TEST_F(MultiColumnTreeTest, RowsEndedWhileAnArgumentIsRead) {
 // wrapper in a list; GetRowById skips it with its children.
 TEST_F(MultiColumnTreeTest, PlainToolkitRowsAreEmptyWrappers) {
     runLua("w = C.NewMultiColumnTree()");
-    const auto node = tree("w");
+    const auto node = nodeOf<LuaMultiColumnTree>("w");
     const RowP plain(new zc::UI_MultiColumnTreeRow(true));
     ASSERT_GE(node->AppendRow(plain, nullptr, true), 0);
     ASSERT_GE(node->AppendRow(RowP(new LuaMultiColumnTreeRow("hidden")), plain, true), 0);
@@ -215,7 +205,7 @@ TEST_F(MultiColumnTreeTest, CustomChildrenTakeTheirPlaceInTheLayout) {
         c = w:CreateAndAppendRow(b, true, 'c')
         w:SetRowHasCustomChild(c, true, 12)
     )");
-    const auto node = tree("w");
+    const auto node = nodeOf<LuaMultiColumnTree>("w");
     const RowP a = node->GetRow(0), b = node->GetRow(1);
     const zebcore::geom::RectT<float> custom = a->GetCustomChild()->UI_GetLocalRectF(false);
     EXPECT_EQ(custom.top, 18.0f);
@@ -234,7 +224,7 @@ TEST_F(MultiColumnTreeTest, CustomChildrenTakeTheirPlaceInTheLayout) {
 // The list handed to the toolkit: columns less one, zero and below skipped, also empty.
 TEST_F(MultiColumnTreeTest, ResizableColumnsAndFlagsReachTheToolkit) {
     runLua("w = C.NewMultiColumnTree()");
-    const auto node = tree("w");
+    const auto node = nodeOf<LuaMultiColumnTree>("w");
     runLua("w:SetResizableColumns({ 1, 0, 3, -2 })");
     EXPECT_EQ(node->GetAutoResizableColumns(), (std::vector<unsigned int>{0, 2}));
     runLua("w:SetResizableColumns({})");
@@ -261,7 +251,7 @@ TEST_F(MultiColumnTreeTest, ResizableColumnsAndFlagsReachTheToolkit) {
 // background colour stays stored when its flag is cleared.
 TEST_F(MultiColumnTreeTest, CustomColoursAndTheirFlags) {
     runLua("w = C.NewMultiColumnTree()");
-    const auto node = tree("w");
+    const auto node = nodeOf<LuaMultiColumnTree>("w");
     EXPECT_EQ(node->GetSelectionColor(), zc::UI_MultiColumnTree::kDefaultSelectionColor);
     runLua("w:SetCustomSelectionColor(0x11223344)");
     EXPECT_EQ(node->GetSelectionColor(), 0x11223344u);
@@ -293,7 +283,7 @@ TEST_F(MultiColumnTreeTest, CallbacksLeaveTheStackAndAnswerInTheirForms) {
           return answer
         end)
     )");
-    const auto node = tree("w");
+    const auto node = nodeOf<LuaMultiColumnTree>("w");
     const RowP row = node->GetRow(0);
     node->ClearRedrawRecord();
     pushSentinels();

@@ -15,7 +15,6 @@
 #include "vex/app/App.h"
 #include "vex/uisupport/CommandHandler.h"
 #include "zebcore/debug/Debug.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zeblua/ui/src/LuaPopupWindow.h"
 #include "zebui/ui/EventLoop.h"
 #include "zebui/ui/KeyboardEvent.h"
@@ -44,12 +43,6 @@ protected:
     void TearDown() override {
         CommandHandlerBase::SetCurrentCommandHandler(nullptr);
         LuaTest::TearDown();
-    }
-    template <class T> T* nodeOf(const char* global) {
-        lua_getglobal(L, global);
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        lua_pop(L, 1);
-        return wrapper ? dynamic_cast<T*>(wrapper->GetNode().get()) : nullptr;
     }
 };
 
@@ -114,7 +107,7 @@ TEST_F(WindowFamilyTest, PopupCallbacksKeepTheCallersStackAndTheirForms) {
         popup:BindPopupWindowOperation("uiKeyboardEvent", function() return answers.key end)
         popup:BindPopupWindowOperation("UI_ActivationChanged", function(a) seen = a; error("x") end)
     )");
-    LuaPopupWindow* popup = nodeOf<LuaPopupWindow>("popup");
+    LuaPopupWindow* popup = nodeOf<LuaPopupWindow>("popup").get();
     ASSERT_NE(popup, nullptr);
     const boost::intrusive_ptr<zebui::ui::UI_Node> held(popup);
     lua_pushstring(L, "the caller's");

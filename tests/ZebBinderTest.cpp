@@ -12,7 +12,6 @@
 
 #include "tests/DrawingTestFixture.h"
 #include "zeblua/ui/src/LuaBindingTable.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zeblua/ui/src/LuaZebNode.h"
 #include "zeblua/ui/src/ZebBinder.h"
 #include "zebui/ui/MouseEvent.h"
@@ -34,13 +33,6 @@ MouseEvent downAt(float x, float y) {
 
 class ZebBinderTest : public DrawingTest {
 protected:
-    // The node of the wrapper in the global name.
-    UI_Node* nodeOf(const char* name) {
-        lua_getglobal(L, name);
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        lua_pop(L, 1);
-        return wrapper ? wrapper->GetNode().get() : nullptr;
-    }
     // A registry reference to the value of a Lua expression.
     int referenceTo(const std::string& expression) {
         const std::string code = "return " + expression;
@@ -51,7 +43,7 @@ protected:
 
 TEST_F(ZebBinderTest, TheTableIsMadeAtTheFirstBindingAndReplacesForeignUserData) {
     runLua(R"(node = zebhost.newNode("UI_SubView"))");
-    UI_Node* node = nodeOf("node");
+    UI_Node* node = wrappedNode("node");
     EXPECT_FALSE(LuaBindingTable::GetLuaBindingTable(node, false));
     EXPECT_TRUE(node->GetUserData().empty()) << "looking must not create";
     node->SetUserData(42);
@@ -74,7 +66,7 @@ TEST_F(ZebBinderTest, HooksLeftByAReplacedTableAreInertAndANewBindingStartsAfres
             node:BindZebOperation(name, function() calls[#calls + 1] = name end)
         end
     )");
-    const boost::intrusive_ptr<UI_Node> node(nodeOf("node"));
+    const boost::intrusive_ptr<UI_Node> node(wrappedNode("node"));
     node->SetUserData(boost::any());  // the table and its binder die here
     collectGarbage();
     node->DeliverDraw(&mCanvas.inkwell);
@@ -99,7 +91,7 @@ TEST_F(ZebBinderTest, DrawingRunsInAFreshStateAtMediumAntiAliasAndNeedsNoSurface
             return true
         end)
     )");
-    UI_Node* node = nodeOf("node");
+    UI_Node* node = wrappedNode("node");
     mCanvas.surface->SetCallLogEnabled(true);
     node->UI_Draw(&mCanvas.inkwell);
     EXPECT_THAT(mCanvas.surface->CallLog(), ElementsAre("PushStateStack()", "SetAntiAliasPolicy(1)",

@@ -10,6 +10,7 @@
 
 namespace zebhost {
 
+#ifdef ZEBHOST_POOLED_LUA_HEAP
 namespace {
 
 // As luaL_newstate's: an error outside any protected call ends the program, with a word.
@@ -18,17 +19,8 @@ int panic(lua_State* L) {
     return 0;
 }
 
-#ifndef ZEBHOST_POOLED_LUA_HEAP
-void* systemAllocate(void*, void* block, std::size_t, std::size_t newSize) {
-    if (newSize == 0) {
-        std::free(block);
-        return nullptr;
-    }
-    return std::realloc(block, newSize);
-}
-#endif
-
 }  // namespace
+#endif
 
 SmallBlockPool::~SmallBlockPool() {
     while (mChunks) {
@@ -56,15 +48,9 @@ void* SmallBlockPool::carve(std::size_t sizeClass) {
 
 void* SmallBlockPool::Allocate(void* ud, void* block, std::size_t oldSize, std::size_t newSize) {
     auto& pool = *static_cast<SmallBlockPool*>(ud);
-    // Most calls make or free one small object.
-    if (!block && newSize != 0 && newSize <= kLargestSmallBlock)
-        return pool.take(sizeClass(newSize));
-    if (newSize == 0 && block && oldSize <= kLargestSmallBlock) {
-        pool.give(block, sizeClass(oldSize));
-        return nullptr;
-    }
     // Lua passes a block's exact size back, so the size tells where a block came from.
     const bool wasSmall = block && oldSize <= kLargestSmallBlock;
+    // Most calls free or make one small object: those two come first.
     if (newSize == 0) {
         if (wasSmall)
             pool.give(block, sizeClass(oldSize));
@@ -72,6 +58,7 @@ void* SmallBlockPool::Allocate(void* ud, void* block, std::size_t oldSize, std::
             std::free(block);
         return nullptr;
     }
+    if (!block && newSize <= kLargestSmallBlock) return pool.take(sizeClass(newSize));
     if (wasSmall && sizeClass(oldSize) == sizeClass(newSize)) return block;
     if (newSize > kLargestSmallBlock && !wasSmall) return std::realloc(block, newSize);
     void* moved =
@@ -92,12 +79,15 @@ lua_State* NewHostState() {
     auto* pool = new (std::nothrow) SmallBlockPool;
     if (!pool) return nullptr;
     lua_State* L = lua_newstate(SmallBlockPool::Allocate, pool);
-    if (!L) delete pool;
-#else
-    lua_State* L = lua_newstate(systemAllocate, nullptr);
-#endif
-    if (L) lua_atpanic(L, panic);
+    if (!L) {
+        delete pool;
+        return nullptr;
+    }
+    lua_atpanic(L, panic);
     return L;
+#else
+    return luaL_newstate();
+#endif
 }
 
 void CloseHostState(lua_State* L) {
