@@ -192,7 +192,6 @@ void pushExistingScopeTable(lua_State* L) {
 
 // Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
 int pushScopeTable(lua_State* L) {
-    if (sScopeTableReference.Push(L)) return lua_gettop(L); /* every scope but the first */
     pushExistingScopeTable(L);
     if (!lua_istable(L, -1)) {
         lua_pop(L, 1);
@@ -212,13 +211,12 @@ int pushScopeTable(lua_State* L) {
     return lua_gettop(L);
 }
 
-// A new userdata for a record, with the kind's scoped metatable from the scope table at
-// tableIndex: the record is anchored in a slot for as long as its scope is open, so a __gc
-// could never find it live, and ending it is then a write to its fields alone.
-InkwellProxy* newScopedRecord(lua_State* L, int tableIndex, DrawingKind kind,
-                              const InkwellProxy& fields) {
+// A new userdata for a guard's surface record, with the scoped surface metatable from the
+// scope table at tableIndex: the record is anchored in a slot for as long as its scope is
+// open, so a __gc could never find it live, and ending it is then a write to its fields alone.
+InkwellProxy* newScopedSurfaceRecord(lua_State* L, int tableIndex, const InkwellProxy& fields) {
     auto* record = new (lua_newuserdata(L, sizeof(InkwellProxy))) InkwellProxy(fields);
-    lua_rawgeti(L, tableIndex, metatableSlot(kind, true));
+    lua_rawgeti(L, tableIndex, kScopedSurfaceMetatable);
     lua_setmetatable(L, -2);
     return record;
 }
@@ -426,7 +424,7 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
     if (!owned && parent && parent->scopeDepth > 0) {
         lua_checkstack(L, 5);
         const int table = pushScopeTable(L);
-        proxy = newScopedRecord(L, table, DrawingKind::kSurface, fields);
+        proxy = newScopedSurfaceRecord(L, table, fields);
         slot = surfaceSlot(parent->scopeDepth);
         lua_pushvalue(L, -1);
         lua_rawseti(L, table, slot);
