@@ -1,9 +1,6 @@
 // Drawing targets and set-up scopes for the benchmarks.
 #include "bench/BenchCanvas.h"
 
-#include <cstdio>
-#include <cstdlib>
-
 #include <lua.hpp>
 
 #include "zeblua/inkwell/src/InkProxyObjs/InkwellProxy.h"
@@ -21,10 +18,7 @@ void CallInScope(lua_State* L, zebui::inkwell::Inkwell& inkwell, int nresults) {
         zeblua::inkwell::AcquireInkwellProxy scope(L, &inkwell, argCount);
         status = lua_pcall(L, argCount, nresults, 0);
     }
-    if (status != 0) {
-        std::fprintf(stderr, "benchmark set-up failed in a draw scope: %s\n", lua_tostring(L, -1));
-        std::exit(2);
-    }
+    if (status != 0) SetUpFailed("a draw scope", lua_tostring(L, -1));
 }
 
 }  // namespace zebbench

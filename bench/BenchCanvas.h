@@ -4,6 +4,7 @@
 
 #include <boost/intrusive_ptr.hpp>
 
+#include "bench/BenchSession.h"
 #include "zebui/inkwell/Inkwell.h"
 #include "zebui/inkwell/cairo/CairoSupplier.h"
 #include "zebui/inkwell/cairo/CairoSurface.h"
@@ -20,6 +21,13 @@ struct BenchCanvas {
     zebui::inkwell::CairoSupplier supplier;
     boost::intrusive_ptr<zebui::inkwell::CairoSurface> surface;
     zebui::inkwell::Inkwell inkwell;
+};
+
+// A session with a canvas for its draw scopes, for a step to own. The canvas goes first,
+// then the state, as a body's locals did.
+struct DrawingFixture {
+    BenchSession session;
+    BenchCanvas canvas;
 };
 
 // Calls the Lua function on top of the stack (popped) with a scoped Inkwell proxy for

@@ -7,18 +7,19 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/BenchGroup.h"
 #include "bench/BenchRegistry.h"
 #include "bench/RatioReporter.h"
 
 namespace {
 
-// Defaults for a quick run on a shared machine: many short repetitions interleaved at
-// random, so that a slow spell of the machine spreads over cases and floors alike, and
-// their median. Fewer, longer ones let a spell of a second or two land on one side of a
-// ratio. Flags given on the command line come later and win.
+// Defaults for a run of about 20 s on a shared machine. Within a group, cases and floors
+// alternate in batches of a few milliseconds, so a ratio divides times of the same moments;
+// the repetitions of the groups are interleaved at random, and the median of each ratio
+// over them is reported. Flags given on the command line come later and win.
 const char* const kDefaultFlags[] = {
     "--benchmark_repetitions=25",
-    "--benchmark_min_time=0.035",
+    "--benchmark_min_time=0.06",
     "--benchmark_enable_random_interleaving=true",
     "--benchmark_report_aggregates_only=true",
 };
@@ -57,6 +58,7 @@ int main(int argc, char** argv) {
     zebbench::RegisterDrawingBenchmarks();
     zebbench::RegisterDispatchBenchmarks();
     zebbench::RegisterTreeBenchmarks();
+    zebbench::RegisterGroups();
 
     zebbench::RatioReporter reporter(jsonPath, commit);
     benchmark::RunSpecifiedBenchmarks(&reporter);

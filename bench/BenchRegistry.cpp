@@ -1,7 +1,5 @@
-// The list of figures, kept beside Google Benchmark's own registration.
+// The list of figures; BenchGroup turns it into Google benchmarks.
 #include "bench/BenchRegistry.h"
-
-#include <benchmark/benchmark.h>
 
 namespace zebbench {
 
@@ -12,24 +10,19 @@ std::vector<Figure>& figures() {
     return sFigures;
 }
 
-void add(const char* id, const char* label, const char* floor, int ops, BenchBody body) {
-    figures().push_back(Figure{id, label, floor, ops, "", ""});
-    benchmark::RegisterBenchmark(id, [body, ops](benchmark::State& state) { body(state, ops); });
-}
-
 }  // namespace
 
-void RegisterFloor(const char* id, const char* label, int ops, BenchBody body) {
-    add(id, label, "", ops, body);
+void RegisterFloor(const char* id, const char* label, int ops, SetUp setUp) {
+    figures().push_back(Figure{id, label, "", ops, setUp, "", ""});
 }
 
-void RegisterCase(const char* id, const char* label, const char* floor, int ops, BenchBody body) {
-    add(id, label, floor, ops, body);
+void RegisterCase(const char* id, const char* label, const char* floor, int ops, SetUp setUp) {
+    figures().push_back(Figure{id, label, floor, ops, setUp, "", ""});
 }
 
 void RegisterDifference(const char* id, const char* label, const char* floor, const char* whole,
                         const char* part) {
-    figures().push_back(Figure{id, label, floor, 0, whole, part});
+    figures().push_back(Figure{id, label, floor, 0, nullptr, whole, part});
 }
 
 const std::vector<Figure>& Figures() {

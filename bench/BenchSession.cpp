@@ -11,13 +11,8 @@ namespace zebbench {
 
 namespace {
 
-[[noreturn]] void fail(const char* what, const char* message) {
-    std::fprintf(stderr, "benchmark set-up failed: %s: %s\n", what, message ? message : "");
-    std::exit(2);
-}
-
 void failOnLuaError(lua_State* L, int status, const char* what) {
-    if (status != 0) fail(what, lua_tostring(L, -1));
+    if (status != 0) SetUpFailed(what, lua_tostring(L, -1));
 }
 
 const char kDrawingModules[] = R"(
@@ -31,11 +26,11 @@ const char kDrawingModules[] = R"(
 }  // namespace
 
 BenchSession::BenchSession() : mL(zebhost::NewHostState()) {
-    if (!mL) fail("NewHostState", "out of memory");
+    if (!mL) SetUpFailed("NewHostState", "out of memory");
     zebhost::SessionOptions options;
     options.resourcesDir = ZEBHOST_DEFAULT_RESOURCES;
     std::string error;
-    if (!zebhost::OpenSession(mL, options, error)) fail("OpenSession", error.c_str());
+    if (!zebhost::OpenSession(mL, options, error)) SetUpFailed("OpenSession", error.c_str());
     lua_settop(mL, 0);
     failOnLuaError(mL, luaL_dostring(mL, kDrawingModules), "drawing modules");
     lua_settop(mL, 0);
@@ -59,8 +54,17 @@ void BenchSession::runLoop(int ref, int n) {
 }
 
 std::string LoopChunk(const char* locals, const char* body) {
-    return std::string("local ") + locals + " = ...\n" + "return function(n)\n  for i = 1, n do " +
-           body + " end\nend\n";
+    return std::string("local ") + locals + " = ...\n" + "return function(n)\n  local " + locals +
+           " = " + locals + "\n  for i = 1, n do " + body + " end\nend\n";
+}
+
+Step LoopStep(std::shared_ptr<BenchSession> session, int ref, int ops) {
+    return [session, ref, ops] { session->runLoop(ref, ops); };
+}
+
+void SetUpFailed(const char* what, const char* message) {
+    std::fprintf(stderr, "benchmark set-up failed: %s: %s\n", what, message ? message : "");
+    std::exit(2);
 }
 
 }  // namespace zebbench

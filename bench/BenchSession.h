@@ -2,9 +2,12 @@
 // cross the boundary many times per measured iteration.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <lua.hpp>
+
+#include "bench/BenchRegistry.h"
 
 namespace zebbench {
 
@@ -31,8 +34,15 @@ private:
 };
 
 // The chunk text common to the Lua-driven loops: "...", the values the benchmark
-// passes in, are named by locals, then body runs n times.
+// passes in, are named by locals, copied into locals of the loop function (a local is a
+// register, an upvalue a load through the closure), then body runs n times.
 //   LoopChunk("f, a, b", "f(a, b)")
 std::string LoopChunk(const char* locals, const char* body);
+
+// The step of a figure that is one Lua loop: runs the loop under ref with ops; owns session.
+Step LoopStep(std::shared_ptr<BenchSession> session, int ref, int ops);
+
+// Ends the program with what failed: a set-up that did not finish leaves nothing to measure.
+[[noreturn]] void SetUpFailed(const char* what, const char* message);
 
 }  // namespace zebbench

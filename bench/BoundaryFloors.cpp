@@ -1,6 +1,6 @@
 // Floors of the crossing itself: a native function that does nothing, called from a Lua
 // loop, and an empty Lua function called from native code.
-#include <benchmark/benchmark.h>
+#include <memory>
 
 #include "bench/BenchRegistry.h"
 #include "bench/BenchSession.h"
@@ -14,22 +14,21 @@ int noop(lua_State*) {
 }
 
 // -- for i = 1, n do noop(a, b) end
-void luaCallsNoop(benchmark::State& state, int ops) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step luaCallsNoop(int ops) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     lua_pushcfunction(L, noop);
     lua_pushstring(L, "alpha/beta/gamma");
     lua_pushstring(L, "alpha/beta/delta");
-    const int loop = session.compileLoop(LoopChunk("f, a, b", "f(a, b)"), 3);
-    for (auto _ : state)
-        session.runLoop(loop, ops);
+    const int loop = session->compileLoop(LoopChunk("f, a, b", "f(a, b)"), 3);
+    return LoopStep(session, loop, ops);
 }
 
 // -- for i = 1, n do object:Noop(2) end, on a userdata whose metatable is its own __index,
 // as every class-form proxy's is.
-void luaCallsNoopMethod(benchmark::State& state, int ops) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step luaCallsNoopMethod(int ops) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     lua_newuserdata(L, sizeof(void*));
     lua_newtable(L);
     lua_pushvalue(L, -1);
@@ -37,23 +36,22 @@ void luaCallsNoopMethod(benchmark::State& state, int ops) {
     lua_pushcfunction(L, noop);
     lua_setfield(L, -2, "Noop");
     lua_setmetatable(L, -2);
-    const int loop = session.compileLoop(LoopChunk("object", "object:Noop(2)"), 1);
-    for (auto _ : state)
-        session.runLoop(loop, ops);
+    const int loop = session->compileLoop(LoopChunk("object", "object:Noop(2)"), 1);
+    return LoopStep(session, loop, ops);
 }
 
 // The bare callback: what a draw hook pays before any scope, with the one argument a draw
 // callback receives.
-void nativeCallsLua(benchmark::State& state, int) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step nativeCallsLua(int) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     luaL_dostring(L, "return function(ink) end");
     const int callback = luaL_ref(L, LUA_REGISTRYINDEX);
-    for (auto _ : state) {
+    return [session, L, callback] {
         lua_rawgeti(L, LUA_REGISTRYINDEX, callback);
         lua_pushnil(L);
         lua_pcall(L, 1, 0, 0);
-    }
+    };
 }
 
 }  // namespace

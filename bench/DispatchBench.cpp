@@ -1,5 +1,7 @@
 // The paths that run on every mouse move and every frame: a move dispatched to a node with a
 // bound "uiMouseEvent", and a draw pass over custom-drawn nodes, each beside its floor.
+#include <memory>
+
 #include <benchmark/benchmark.h>
 #include <boost/intrusive_ptr.hpp>
 
@@ -33,10 +35,16 @@ NodeP nodeFromChunk(BenchSession& session, const char* chunk) {
     return node;
 }
 
-// -- node:BindZebOperation("uiMouseEvent", function(event) end), then moves dispatched to it
-void mouseMove(benchmark::State& state, int) {
+// The node goes before the state whose handler it holds.
+struct MoveFixture {
     BenchSession session;
-    const NodeP node = nodeFromChunk(session, R"(
+    NodeP node;
+};
+
+// -- node:BindZebOperation("uiMouseEvent", function(event) end), then moves dispatched to it
+Step mouseMove(int) {
+    auto fixture = std::make_shared<MoveFixture>();
+    fixture->node = nodeFromChunk(fixture->session, R"(
         local node = zebhost.newNode("UI_SubView", "target", zeblua_CreateNewRectF32(0, 0, 100, 100))
         node:BindZebOperation("uiMouseEvent", function(event) end)
         return node
@@ -45,8 +53,9 @@ void mouseMove(benchmark::State& state, int) {
                                      zebcore::geom::PointT<float>(20, 30), 0, zebui::ui::OS_Event(),
                                      0, 0, 0, 0, zebui::ui::kSwipeDirection_None, 0);
     zebui::ui::UI_NodeManager* manager = zebui::ui::UI_NodeManager::Get(false);
-    for (auto _ : state)
-        benchmark::DoNotOptimize(manager->DispatchMouseEvent(node.get(), move));
+    return [fixture, move, manager] {
+        benchmark::DoNotOptimize(manager->DispatchMouseEvent(fixture->node.get(), move));
+    };
 }
 
 // A root with a grid of children, each painting its own rectangle in its "uiDraw", as a
@@ -74,28 +83,34 @@ struct Canvas {
         supplier.MakeOffscreenCairoSurface(kCanvasSize, kCanvasSize, false)};
 };
 
-void drawPass(benchmark::State& state, int) {
+// The canvas, then the grid's root, go before the state, as a body's locals did.
+struct PassFixture {
     BenchSession session;
-    const NodeP root = nodeFromChunk(session, kDrawnGrid);
+    NodeP root;
     Canvas canvas;
-    for (auto _ : state) {
-        zebui::inkwell::Inkwell inkwell(&canvas.supplier, canvas.surface.get());
-        root->DeliverDraw(&inkwell);
-    }
+};
+
+Step drawPass(int) {
+    auto fixture = std::make_shared<PassFixture>();
+    fixture->root = nodeFromChunk(fixture->session, kDrawnGrid);
+    return [fixture] {
+        zebui::inkwell::Inkwell inkwell(&fixture->canvas.supplier, fixture->canvas.surface.get());
+        fixture->root->DeliverDraw(&inkwell);
+    };
 }
 
 // The same hundred rectangles in the same colours, from one native loop.
-void nativeRects(benchmark::State& state, int) {
-    Canvas canvas;
-    for (auto _ : state) {
+Step nativeRects(int) {
+    auto canvas = std::make_shared<Canvas>();
+    return [canvas] {
         for (int i = 0; i < kGridSide * kGridSide; ++i) {
             const float left = float((i % kGridSide) * kCellSize + 1);
             const float top = float((i / kGridSide) * kCellSize + 1);
-            canvas.surface->PaintRect(
+            canvas->surface->PaintRect(
                 zebui::inkwell::ColorRGBA(float(i) / 100, 0.5f, 1 - float(i) / 100, 1),
                 zebcore::geom::RectT<float>(left, top, kCellSize - 2, kCellSize - 2));
         }
-    }
+    };
 }
 
 }  // namespace

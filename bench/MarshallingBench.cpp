@@ -1,6 +1,6 @@
 // Native values written to Lua through the script layer's global constructors, against
 // building the same table natively.
-#include <benchmark/benchmark.h>
+#include <memory>
 
 #include "bench/BenchRegistry.h"
 #include "bench/BenchSession.h"
@@ -12,13 +12,13 @@ namespace {
 
 // The table zeblua_CreateNewRectF32 makes, built field by field with the metatable the
 // constructor gives its tables: what the writers would cost without the Lua call.
-void nativeRectTable(benchmark::State& state, int) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step nativeRectTable(int) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     luaL_dostring(L, "return getmetatable(zeblua_CreateNewRectF32(0, 0, 0, 0))");
     const int metatable = luaL_ref(L, LUA_REGISTRYINDEX);
-    const float left = 1.5f, top = 2.5f, width = 30.0f, height = 40.0f;
-    for (auto _ : state) {
+    return [session, L, metatable] {
+        const float left = 1.5f, top = 2.5f, width = 30.0f, height = 40.0f;
         lua_createtable(L, 0, 4);
         lua_pushnumber(L, left);
         lua_setfield(L, -2, "left");
@@ -31,27 +31,27 @@ void nativeRectTable(benchmark::State& state, int) {
         lua_rawgeti(L, LUA_REGISTRYINDEX, metatable);
         lua_setmetatable(L, -2);
         lua_pop(L, 1);
-    }
+    };
 }
 
-void pushRect(benchmark::State& state, int) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step pushRect(int) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     const zebcore::geom::RectT<float> rect(1.5f, 2.5f, 30.0f, 40.0f);
-    for (auto _ : state) {
+    return [session, L, rect] {
         zeblua::inkwell::PushRectF32ToLua(L, rect);
         lua_pop(L, 1);
-    }
+    };
 }
 
-void pushColour(benchmark::State& state, int) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step pushColour(int) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     const zebui::inkwell::ColorRGBA colour(1.0f, 0.5f, 0.25f, 1.0f);
-    for (auto _ : state) {
+    return [session, L, colour] {
         zeblua::inkwell::PushColorRGBAToLua(L, colour);
         lua_pop(L, 1);
-    }
+    };
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // A class-form method from a Lua loop: the proxy checked with luaL_checkudata, then one
 // virtual call on the pen.
-#include <benchmark/benchmark.h>
+#include <memory>
 
 #include "bench/BenchCanvas.h"
 #include "bench/BenchRegistry.h"
@@ -12,16 +12,14 @@ namespace {
 
 // -- for i = 1, n do object:SetWidth(2) end, the floor's loop with the pen as object.
 // The pen is made in a draw scope and outlives it, as a script's kept pen does.
-void penSetWidth(benchmark::State& state, int ops) {
-    BenchSession session;
-    BenchCanvas canvas;
-    lua_State* L = session.L();
+Step penSetWidth(int ops) {
+    auto fixture = std::make_shared<DrawingFixture>();
+    lua_State* L = fixture->session.L();
     luaL_loadstring(L, "local ink = ...\n"
                        "return PenInterface.newPen(ink, zeblua_CreateNewRGBA(1, 0, 0, 1), 1)");
-    CallInScope(L, canvas.inkwell, 1); /* pen */
-    const int loop = session.compileLoop(LoopChunk("object", "object:SetWidth(2)"), 1);
-    for (auto _ : state)
-        session.runLoop(loop, ops);
+    CallInScope(L, fixture->canvas.inkwell, 1); /* pen */
+    const int loop = fixture->session.compileLoop(LoopChunk("object", "object:SetWidth(2)"), 1);
+    return [fixture, loop, ops] { fixture->session.runLoop(loop, ops); };
 }
 
 }  // namespace

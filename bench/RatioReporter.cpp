@@ -8,6 +8,7 @@
 #include <functional>
 #include <utility>
 
+#include "bench/BenchGroup.h"
 #include "bench/BenchRegistry.h"
 
 namespace zebbench {
@@ -16,11 +17,14 @@ namespace {
 
 using Run = benchmark::BenchmarkReporter::Run;
 
-double nanoseconds(const Run& run) {
-    return run.GetAdjustedCPUTime() * 1e9 / benchmark::GetTimeUnitMultiplier(run.time_unit);
+// A counter of run, or 0 when the run has none of that name.
+double counter(const Run& run, const std::string& name, bool& found) {
+    const auto value = run.counters.find(name);
+    found = value != run.counters.end();
+    return found ? value->second.value : 0.0;
 }
 
-// The run that stands for the figure: the median aggregate when there were repetitions.
+// The run that stands for the group: the median aggregate when there were repetitions.
 const Run* representative(const std::vector<Run>& runs) {
     const Run* chosen = nullptr;
     for (const Run& run : runs) {
@@ -69,18 +73,24 @@ bool RatioReporter::ReportContext(const Context& context) {
     return true;
 }
 
+// A group's run carries a counter per figure of the group, and one per case for its ratio;
+// the median aggregate holds the median of each over the repetitions.
 void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
     const Run* run = representative(runs);
     if (!run) return;
-    const std::string id = run->run_name.function_name;
-    const Figure* figure = FindFigure(id);
-    if (!figure) return;
     if (run->run_type == Run::RT_Aggregate)
         mRepetitions = static_cast<int>(run->repetitions);
     else
-        mStatistic = "single run";
-    mNsPerOp[id] = nanoseconds(*run) / figure->ops;
-    std::fprintf(stderr, "  %-28s %12.2f ns/op\n", id.c_str(), mNsPerOp[id]);
+        mStatistic = "single repetition";
+    for (const Figure& figure : Figures()) {
+        bool found = false;
+        const double ns = counter(*run, NsPerOpCounter(figure.id), found);
+        if (!found) continue;
+        mNsPerOp[figure.id] = ns;
+        const double ratio = counter(*run, RatioCounter(figure.id), found);
+        if (found) mRatio[figure.id] = ratio;
+        std::fprintf(stderr, "  %-28s %12.2f ns/op\n", figure.id.c_str(), ns);
+    }
 }
 
 void RatioReporter::Finalize() {
@@ -93,43 +103,32 @@ void RatioReporter::Finalize() {
 // run comes last, without a ratio.
 std::vector<RatioReporter::Row> RatioReporter::rows() const {
     std::vector<Row> result;
-    auto ran = [this](const std::string& id) {
-        const auto found = mNsPerOp.find(id);
-        return found == mNsPerOp.end() ? 0.0 : found->second;
+    auto value = [](const std::map<std::string, double>& values, const std::string& id) {
+        const auto found = values.find(id);
+        return found == values.end() ? 0.0 : found->second;
     };
-    auto measured = [&](const std::string& id) {
-        const Figure* figure = FindFigure(id);
-        if (!figure || figure->whole.empty()) return ran(id);
-        const double whole = ran(figure->whole);
-        const double part = ran(figure->part);
-        return whole > 0 && part > 0 && whole > part ? whole - part : 0.0;
-    };
+    auto ran = [this](const std::string& id) { return mNsPerOp.count(id) > 0; };
     // Each case is followed by the cases it is the floor of.
-    std::function<void(const std::string&, double)> addCases = [&](const std::string& floor,
-                                                                   double floorNs) {
+    std::function<void(const std::string&)> addCases = [&](const std::string& floor) {
         for (const Figure& figure : Figures()) {
-            if (figure.floor.empty() || figure.floor != floor) continue;
-            const double ns = measured(figure.id);
-            if (ns <= 0) continue;
-            const double ratio = floorNs > 0 ? ns / floorNs : 0.0;
-            result.push_back(Row{figure.id, figure.label, figure.floor, ns, floorNs, ratio});
-            addCases(figure.id, ns);
+            if (figure.floor.empty() || figure.floor != floor || !ran(figure.id)) continue;
+            result.push_back(Row{figure.id, figure.label, figure.floor, value(mNsPerOp, figure.id),
+                                 value(mNsPerOp, floor), value(mRatio, figure.id)});
+            addCases(figure.id);
         }
     };
     for (const Figure& figure : Figures()) {
-        if (!figure.floor.empty()) continue;
-        const double ns = measured(figure.id);
-        if (ns <= 0) continue;
-        result.push_back(Row{figure.id, figure.label, "", ns, 0.0, 0.0});
-        addCases(figure.id, ns);
+        if (!figure.floor.empty() || !ran(figure.id)) continue;
+        result.push_back(Row{figure.id, figure.label, "", value(mNsPerOp, figure.id), 0.0, 0.0});
+        addCases(figure.id);
     }
     std::vector<std::string> unmeasured;
     for (const Figure& figure : Figures()) {
-        if (figure.floor.empty() || measured(figure.floor) > 0) continue;
+        if (figure.floor.empty() || ran(figure.floor)) continue;
         if (std::find(unmeasured.begin(), unmeasured.end(), figure.floor) != unmeasured.end())
             continue;
         unmeasured.push_back(figure.floor);
-        addCases(figure.floor, 0.0);
+        addCases(figure.floor);
     }
     return result;
 }
@@ -138,7 +137,7 @@ void RatioReporter::printTable(const std::vector<Row>& table) const {
     std::FILE* out = stdout;
     std::fprintf(out, "\nCPU ns per operation (%s", mStatistic.c_str());
     if (mRepetitions > 0) std::fprintf(out, " of %d", mRepetitions);
-    std::fprintf(out, "); ratio = case / its floor, both measured in this process.\n\n");
+    std::fprintf(out, "); ratio = %s.\n\n", ratioMethod().c_str());
     std::fprintf(out, "%-50s %12s %12s %9s\n", "figure", "ns/op", "floor ns/op", "ratio");
     for (const Row& row : table) {
         if (row.floor.empty()) {
@@ -154,6 +153,11 @@ void RatioReporter::printTable(const std::vector<Row>& table) const {
     std::fflush(out);
 }
 
+std::string RatioReporter::ratioMethod() const {
+    return mRepetitions > 0 ? "median of per-repetition ratios, case and floor alternating"
+                            : "ratio of the one repetition, case and floor alternating";
+}
+
 bool RatioReporter::writeJSON(const std::vector<Row>& table) const {
     std::ofstream out(mJsonPath);
     if (!out) return false;
@@ -164,6 +168,7 @@ bool RatioReporter::writeJSON(const std::vector<Row>& table) const {
         << "    \"mhz_per_cpu\": " << jsonNumber(mMhz) << ",\n"
         << "    \"time\": \"cpu\",\n"
         << "    \"statistic\": " << jsonString(mStatistic) << ",\n"
+        << "    \"ratio\": " << jsonString(ratioMethod()) << ",\n"
         << "    \"repetitions\": " << mRepetitions << "\n"
         << "  },\n  \"figures\": [";
     const char* separator = "\n";

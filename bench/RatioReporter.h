@@ -10,9 +10,11 @@
 
 namespace zebbench {
 
-// Takes the median of the repetitions of each figure (or its only run without
-// repetitions), in CPU time, divided by the figure's operations per iteration. Prints a
-// line to stderr as each figure finishes, and the table to stdout at the end.
+// Reads the counters of each group's median aggregate (or of its one repetition without
+// aggregates): a figure's CPU ns per operation, and a case's ratio to its floor, both
+// medians over the repetitions. A ratio is thus not the quotient of the two medians shown
+// beside it. Prints a line to stderr per figure as its group finishes, and the table to
+// stdout at the end.
 class RatioReporter : public benchmark::BenchmarkReporter {
 public:
     // jsonPath empty: no file. commit is copied into the JSON for comparisons over time.
@@ -32,12 +34,14 @@ private:
         std::string floor;  // empty for a floor
         double nsPerOp;
         double floorNsPerOp;  // 0 for a floor, or when the floor did not run
-        double ratio;         // 0 likewise
+        double ratio;         // 0 likewise, or when the repetitions gave none
     };
 
     std::vector<Row> rows() const;
     void printTable(const std::vector<Row>& rows) const;
     bool writeJSON(const std::vector<Row>& rows) const;
+    // How the ratios were taken, for the table's header and the JSON's context.
+    std::string ratioMethod() const;
 
     std::string mJsonPath;
     std::string mCommit;
@@ -46,6 +50,7 @@ private:
     int mCpus = 0;
     double mMhz = 0;
     std::map<std::string, double> mNsPerOp;  // by figure id
+    std::map<std::string, double> mRatio;    // by case id
     bool mOk = true;
 };
 

@@ -2,6 +2,9 @@
 // is, f(a, b) with f and both strings in locals; and the regular expression functions with
 // one pattern used again and again, against Boost.Regex doing the same work with that
 // pattern compiled once.
+#include <initializer_list>
+#include <iterator>
+#include <memory>
 #include <string>
 
 #include <benchmark/benchmark.h>
@@ -30,85 +33,80 @@ const char kLeadingSpace[] = "\\A[\\s]*";
 const char kTrailingSpace[] = "[\\s]*\\z";
 
 // -- for i = 1, n do f(...) end, with f = zebString[function] and the strings as locals
-void runStringLoop(benchmark::State& state, int ops, const char* function, const char* locals,
-                   const char* call, std::initializer_list<const char*> strings) {
-    BenchSession session;
-    lua_State* L = session.L();
+Step stringLoop(int ops, const char* function, const char* locals, const char* call,
+                std::initializer_list<const char*> strings) {
+    auto session = std::make_shared<BenchSession>();
+    lua_State* L = session->L();
     lua_getglobal(L, "zebString");
     lua_getfield(L, -1, function);
     lua_remove(L, -2);
     for (const char* text : strings)
         lua_pushstring(L, text);
-    const int loop = session.compileLoop(LoopChunk(locals, call), 1 + int(strings.size()));
-    for (auto _ : state)
-        session.runLoop(loop, ops);
+    const int loop = session->compileLoop(LoopChunk(locals, call), 1 + int(strings.size()));
+    return LoopStep(session, loop, ops);
 }
 
 // Two strings that share a prefix, so the comparison walks some bytes.
-void compare(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "Compare", "f, a, b", "f(a, b)",
-                  {"alpha/beta/gamma", "alpha/beta/delta"});
+Step compare(int ops) {
+    return stringLoop(ops, "Compare", "f, a, b", "f(a, b)",
+                      {"alpha/beta/gamma", "alpha/beta/delta"});
 }
 
-void matchB(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "MatchB", "f, a, b", "f(a, b)", {kSentence, kWord});
+Step matchB(int ops) {
+    return stringLoop(ops, "MatchB", "f, a, b", "f(a, b)", {kSentence, kWord});
 }
 
-void matchBGrouped(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "MatchB", "f, a, b", "f(a, b)", {kSentence, kGroupedWord});
+Step matchBGrouped(int ops) {
+    return stringLoop(ops, "MatchB", "f, a, b", "f(a, b)", {kSentence, kGroupedWord});
 }
 
-void replaceB(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "ReplaceB", "f, a, b, c", "f(a, b, c)", {kSentence, kWord, kColour});
+Step replaceB(int ops) {
+    return stringLoop(ops, "ReplaceB", "f, a, b, c", "f(a, b, c)", {kSentence, kWord, kColour});
 }
 
-void trim(benchmark::State& state, int ops) {
-    runStringLoop(state, ops, "Trim", "f, a", "f(a)", {kPadded});
+Step trim(int ops) {
+    return stringLoop(ops, "Trim", "f, a", "f(a)", {kPadded});
 }
 
-// ops runs of op per measured iteration.
-template <class Op> void repeatNative(benchmark::State& state, int ops, Op op) {
-    for (auto _ : state)
+// ops runs of op per step; op owns what it works with.
+template <class Op> Step repeatNative(int ops, Op op) {
+    return [ops, op]() mutable {
         for (int i = 0; i < ops; ++i)
             op();
+    };
 }
 
 const char* const kSentenceEnd = kSentence + sizeof kSentence - 1;
 
-void searchSentence(benchmark::State& state, int ops, const char* pattern) {
-    const ByteRegex regex(pattern);
-    boost::cmatch found;
-    repeatNative(state, ops, [&] {
+Step searchSentence(int ops, const char* pattern) {
+    return repeatNative(ops, [regex = ByteRegex(pattern), found = boost::cmatch()]() mutable {
         benchmark::DoNotOptimize(boost::regex_search(kSentence, kSentenceEnd, found, regex));
         benchmark::DoNotOptimize(found[0].first - kSentence);
     });
 }
 
-void boostSearch(benchmark::State& state, int ops) {
-    searchSentence(state, ops, kWord);
+Step boostSearch(int ops) {
+    return searchSentence(ops, kWord);
 }
 
-void boostSearchGrouped(benchmark::State& state, int ops) {
-    searchSentence(state, ops, kGroupedWord);
+Step boostSearchGrouped(int ops) {
+    return searchSentence(ops, kGroupedWord);
 }
 
 // Into one string, as a result is built before Lua copies it.
-void boostReplace(benchmark::State& state, int ops) {
-    const ByteRegex regex(kWord);
-    std::string out;
-    repeatNative(state, ops, [&] {
+Step boostReplace(int ops) {
+    return repeatNative(ops, [regex = ByteRegex(kWord), out = std::string()]() mutable {
         out.clear();
         boost::regex_replace(std::back_inserter(out), kSentence, kSentenceEnd, regex, kColour);
         benchmark::DoNotOptimize(out.data());
     });
 }
 
-void boostTrim(benchmark::State& state, int ops) {
-    const ByteRegex leadingSpace(kLeadingSpace);
-    const ByteRegex trailingSpace(kTrailingSpace);
-    const char* last = kPadded + sizeof kPadded - 1;
-    boost::cmatch found;
-    repeatNative(state, ops, [&] {
+Step boostTrim(int ops) {
+    return repeatNative(ops, [leadingSpace = ByteRegex(kLeadingSpace),
+                              trailingSpace = ByteRegex(kTrailingSpace),
+                              found = boost::cmatch()]() mutable {
+        const char* last = kPadded + sizeof kPadded - 1;
         boost::regex_search(kPadded, last, found, leadingSpace);
         const char* first = found[0].second;
         boost::regex_search(first, last, found, trailingSpace);
