@@ -177,23 +177,24 @@ void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
     lua_rawseti(L, -2, metatableSlot(kind, false)); /* T */
 }
 
-// Pushes the scope table of L's state, or nil before the first scope. Raises no Lua error.
-void pushExistingScopeTable(lua_State* L) {
-    if (sScopeTableReference.Push(L)) return;
+// Pushes the scope table of L's state and answers true; before the first scope, pushes nil
+// and answers false. Raises no Lua error.
+bool pushExistingScopeTable(lua_State* L) {
+    if (sScopeTableReference.Push(L)) return true;
     PushRegistryTable(L, &sScopeTableKey);
-    if (!lua_istable(L, -1)) return;
+    if (!lua_istable(L, -1)) return false;
     sScopeTableReference.Keep(L, HeldSelfReference(L, -1, kOwnReference));
     for (int slot = kInkwellMetatable; slot <= kScopedSurfaceMetatable; ++slot) {
         lua_rawgeti(L, -1, slot);
         sMetatableAddresses[slot] = lua_topointer(L, -1);
         lua_pop(L, 1);
     }
+    return true;
 }
 
 // Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
 int pushScopeTable(lua_State* L) {
-    pushExistingScopeTable(L);
-    if (!lua_istable(L, -1)) {
+    if (!pushExistingScopeTable(L)) {
         lua_pop(L, 1);
         lua_createtable(L, kFirstAnchorSlot + 8, 0);
         fillMetatables(L, DrawingKind::kInkwell, kZebLuaInkwellMetaTableName,
@@ -229,8 +230,7 @@ void endSkippedScope(lua_State* L, int depth) {
     ScopeRecord& scope = sScopeRecords[depth];
     InvalidateProxy(&scope.proxy);
     scope.generation = 0;
-    pushExistingScopeTable(L);
-    if (lua_istable(L, -1)) {
+    if (pushExistingScopeTable(L)) {
         lua_rawgeti(L, -1, surfaceSlot(depth));
         if (auto* record = static_cast<InkwellProxy*>(lua_touserdata(L, -1))) {
             unlist(record);
@@ -422,7 +422,8 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
     InkwellProxy* proxy = nullptr;
     int slot = 0;
     if (!owned && parent && parent->scopeDepth > 0) {
-        lua_checkstack(L, 5);
+        // The guard that opened the scope made the scope table: the few values this pushes fit
+        // in the LUA_MINSTACK free slots Lua gives the methods that call it.
         const int table = pushScopeTable(L);
         proxy = newScopedSurfaceRecord(L, table, fields);
         slot = surfaceSlot(parent->scopeDepth);
