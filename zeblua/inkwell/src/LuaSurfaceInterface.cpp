@@ -514,9 +514,6 @@ const luaL_Reg kSurfaceMethods[] = {
     {"PopStateStack", surfacePopStateStack},
     {"DrawString", surfaceDrawString},
     {"MeasureStringWidth", surfaceMeasureStringWidth},
-    {"PaintRect", surfacePaintRect},
-    {"DrawOutline", surfaceDrawOutline},
-    {"DrawRoundedFill", surfaceDrawRoundedFill},
     {"StrokePath", surfaceStrokePath},
     {"FillPath", surfaceFillPath},
     {"ShadePath", surfaceShadePath},
@@ -534,8 +531,8 @@ const luaL_Reg kSurfaceMethods[] = {
     {nullptr, nullptr},
 };
 
-// Methods that read a rect and a colour on every call: luaopen replaces each, in its place
-// in the metatable, by a closure that keeps the field names as upvalues.
+// The methods that read a rect and a colour on every call: luaopen adds them to the
+// metatable as closures that keep the field names as upvalues.
 const luaL_Reg kRectAndColourMethods[] = {
     {"PaintRect", surfacePaintRect},
     {"DrawOutline", surfaceDrawOutline},

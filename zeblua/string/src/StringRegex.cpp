@@ -320,12 +320,9 @@ void TrimWhiteSpace(const char*& first, const char*& last) {
         work += run * (run + 1) / 2;
         run = 0;
         if (work > kSimpleSteps) {
-            struct Trailing {
-                ByteRegex regex = compileClassic("[\\s]*\\z");
-            };
-            static const Trailing sTrailing;
+            static const ByteRegex sTrailing = compileClassic("[\\s]*\\z");
             RegexMatch found{};
-            search(sTrailing.regex, first, last, found);
+            search(sTrailing, first, last, found);
             last = first + found.begin;
             return;
         }
