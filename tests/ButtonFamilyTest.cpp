@@ -9,7 +9,6 @@
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
 #include "zeblua/ui/src/ImageProvider.h"
-#include "zeblua/ui/src/LuaControlWrapperFactory.h"
 #include "zebui/controls/UI_Button.h"
 #include "zebui/controls/UI_PictureTextButton.h"
 #include "zebui/controls/UI_RadioButton.h"
@@ -25,11 +24,6 @@ protected:
     void SetUp() override {
         LuaTest::SetUp();
         runLua("C = require 'zeblua.zebcontrols'");
-    }
-
-    void setWrapper(const char* name, const NodeP& node) {
-        ASSERT_NE(zeblua::ui::LuaControlWrapperFactory(node, L), nullptr);
-        lua_setglobal(L, name);
     }
 };
 

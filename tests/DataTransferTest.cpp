@@ -270,8 +270,6 @@ TEST_F(DataTransferTest, SendDataIsBufferedUntilPutAndPublishingReplacesTheClipb
     EXPECT_EQ(luaValue("#OSReceiveData.NewClipboardReceiveData():GetAsString('org.example.raw')"),
               "0")
         << "a text push ends at the first zero";
-    EXPECT_EQ(zdt::AllowedDropEffect(zdt::kDropEffectCopy | zdt::kDropEffectMove, 15), 0)
-        << "a combination is no single effect";
     EXPECT_EQ(zdt::AllowedDropEffect(2, 15), 0) << "2 is no effect";
     EXPECT_EQ(zdt::AllowedDropEffect(zdt::kDropEffectLink, 15), zdt::kDropEffectLink);
 }

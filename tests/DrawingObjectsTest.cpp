@@ -36,13 +36,6 @@ protected:
     std::string penDescription(const char* name) {
         return dynamic_cast<zebui::inkwell::CairoPen&>(*pen(name)).Describe();
     }
-    // The entries of the canvas's call log that begin with prefix.
-    std::vector<std::string> logged(const std::string& prefix) {
-        std::vector<std::string> entries;
-        for (const std::string& entry : mCanvas.surface->CallLog())
-            if (entry.compare(0, prefix.size(), prefix) == 0) entries.push_back(entry);
-        return entries;
-    }
 };
 
 TEST_F(DrawingObjectsTest, ObjectsMadeInOneScopeDrawInALaterOneOnAnotherSurface) {
@@ -110,19 +103,19 @@ TEST_F(DrawingObjectsTest, ArgumentsAndDefaultsReachTheSurfaceInOrder) {
     const std::string path =
         "path=[M(1,2) L(3,4) C(5,6,7,8,9,10) R(0,1,2,3) A(8,8,4,0,360) A(8,8,2,90,45) Z]";
     EXPECT_EQ(
-        logged("FillPath"),
+        loggedCalls(mCanvas, "FillPath"),
         (std::vector<std::string>{"FillPath(brush=(1,0,0,1), " + path + ", windingFill=true)",
                                   "FillPath(brush=(1,0,0,1), " + path + ", windingFill=false)"}));
-    const auto strokes = logged("StrokePath");
+    const auto strokes = loggedCalls(mCanvas, "StrokePath");
     ASSERT_EQ(strokes.size(), 2u);
     EXPECT_EQ(strokes[0].find("StrokePath(pen=(colour=(0,0,1,1), width=2,"), 0u) << strokes[0];
     EXPECT_EQ(strokes[1].find("StrokePath(pen=(colour=(1,0,0,1), width=3,"), 0u) << strokes[1];
     const std::string shader = "shader=linear((0,0),(16,0),0:(1,0,0,1),1:(0,0,1,1))";
     EXPECT_EQ(
-        logged("ShadePath"),
+        loggedCalls(mCanvas, "ShadePath"),
         (std::vector<std::string>{"ShadePath(" + shader + ", " + path + ", windingFill=true)",
                                   "ShadePath(" + shader + ", " + path + ", windingFill=false)"}));
-    EXPECT_EQ(logged("PaintRect"),
+    EXPECT_EQ(loggedCalls(mCanvas, "PaintRect"),
               std::vector<std::string>{"PaintRect(colour=(0,0,1,1), rect=(1,2,3,4))"});
 }
 

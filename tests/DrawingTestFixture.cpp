@@ -72,13 +72,6 @@ void DrawingTest::defineDispatch(const char* global, Inkwell& inkwell) {
     lua_setglobal(L, global);
 }
 
-int DrawingTest::reportCount(const std::string& message) {
-    int count = 0;
-    for (const auto& report : zebcore::debug::RecordedAssertReports())
-        if (report.message == message) ++count;
-    return count;
-}
-
 std::string DrawingTest::nullPointerText() {
     char text[32];
     std::snprintf(text, sizeof text, "%p", static_cast<void*>(nullptr));

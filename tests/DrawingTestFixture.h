@@ -48,8 +48,6 @@ protected:
     // function named by its argument there: a parent dispatching its draw to a child.
     void defineDispatch(const char* global, zebui::inkwell::Inkwell& inkwell);
 
-    // Recorded assertion reports with this message.
-    static int reportCount(const std::string& message);
     // What "%p" makes of a null pointer, as in "zebInkwell(<this>)".
     static std::string nullPointerText();
     // The entries of the canvas's call log that begin with prefix.

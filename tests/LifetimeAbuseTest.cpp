@@ -73,13 +73,6 @@ protected:
         return lua_gettop(L);
     }
 
-    static int reportCount(const std::string& message) {
-        int count = 0;
-        for (const auto& report : zebcore::debug::RecordedAssertReports())
-            if (report.message == message) ++count;
-        return count;
-    }
-
     // Each of calls answers nothing, raises nothing, and makes the one report.
     void expectEnded(const std::string& call, const char* report) {
         zebcore::debug::ClearRecordedAssertReports();
@@ -128,8 +121,7 @@ TEST_F(LifetimeAbuseTest, ForgedWrappersAreBadUserData) {
     // A real wrapper whose mark a script removed is refused by its methods, yet the
     // collector still ends it.
     const NodeP node(new zebui::ui::UI_SubView);
-    zeblua::ui::LuaControlWrapperFactory(node, L);
-    lua_setglobal(L, "unmarked");
+    setWrapper("unmarked", node);
     runLua("getmetatable(unmarked).ControlWrapperIdentifier = nil");
     EXPECT_THAT(luaError("unmarked:UI_GetNodeID()"), HasSubstr("Bad user data"));
     runLua("unmarked = nil");
@@ -308,8 +300,7 @@ TEST_F(LifetimeAbuseTest, TimersSurviveTheirCoroutinesAndTheirOwnFaults) {
     // A timer whose wrapper lost its __gc still ends with the state, before any tick
     // could reach the closed state.
     const NodeP node(new zebui::ui::UI_SubView);
-    zeblua::ui::LuaControlWrapperFactory(node, L);
-    lua_setglobal(L, "w");
+    setWrapper("w", node);
     runLua("getmetatable(w).__gc = nil; w:UI_InstallTimer(0.01, function() end); w = nil");
     collectGarbage();
     lua_close(L);

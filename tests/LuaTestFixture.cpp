@@ -6,6 +6,7 @@
 #include "host/src/Session.h"
 #include "zebcore/debug/Debug.h"
 #include "zeblua/ui/src/LuaControlWrapperBase.h"
+#include "zeblua/ui/src/LuaControlWrapperFactory.h"
 
 void LuaTest::SetUp() {
     zebcore::debug::ClearRecordedAssertReports();
@@ -92,4 +93,16 @@ zebui::ui::UI_Node* LuaTest::wrappedNode(const char* global) {
     zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
     lua_pop(L, 1);
     return wrapper ? wrapper->GetNode().get() : nullptr;
+}
+
+void LuaTest::setWrapper(const char* name, const boost::intrusive_ptr<zebui::ui::UI_Node>& node) {
+    ASSERT_NE(zeblua::ui::LuaControlWrapperFactory(node, L), nullptr);
+    lua_setglobal(L, name);
+}
+
+int LuaTest::reportCount(const std::string& message) {
+    int count = 0;
+    for (const auto& report : zebcore::debug::RecordedAssertReports())
+        if (report.message == message) ++count;
+    return count;
 }

@@ -36,6 +36,10 @@ protected:
     int resultCount(const std::string& expression);
     // A full collection cycle.
     void collectGarbage();
+    // Pushes node's wrapper into the global name.
+    void setWrapper(const char* name, const boost::intrusive_ptr<zebui::ui::UI_Node>& node);
+    // Recorded assertion reports with this message.
+    static int reportCount(const std::string& message);
     // The node of the control wrapper in the global name; null when the global holds none.
     zebui::ui::UI_Node* wrappedNode(const char* global);
     // That node as a T, held; null when there is none or it is no T.

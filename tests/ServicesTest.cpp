@@ -69,54 +69,7 @@ TEST_F(ServicesTest, ClosingTheStateResetsSilenceThemesMonitorsAndRecords) {
     EXPECT_TRUE(os::OpenedURLs().empty());
 }
 
-TEST_F(ServicesTest, SettingSilenceIsReportedEachTimeAndStored) {
-    zebcore::debug::ClearRecordedAssertReports();
-    SetAlertsAreSilent(true);
-    SetAlertsAreSilent(true);
-    ASSERT_EQ(zebcore::debug::RecordedAssertReports().size(), 2u);
-    EXPECT_EQ(zebcore::debug::RecordedAssertReports()[0].expression, "0");
-    EXPECT_TRUE(GetAlertsAreSilent());
-    answer(4);
-    EXPECT_EQ(resultCount("Alert.Show(0, 0, 'a', 'b')"), 0);
-    EXPECT_EQ(EventLoop::Get()->GetPendingUserAnswerCount(), 1u) << "no box took the answer";
-    SetAlertsAreSilent(false);
-    EXPECT_EQ(luaValue("Alert.Show(0, 0, 'a', 'b')"), "4");
-}
-
 // --- Alerts --------------------------------------------------------------------------------
-
-TEST_F(ServicesTest, AlertArgumentRulesAnswerNothing) {
-    struct Row {
-        const char* call;
-        int results;
-    };
-    const Row rows[] = {
-        {"Alert.ShowNote()", 0},
-        {"Alert.ShowNote('a')", 0},
-        {"Alert.ShowNote('a', 'b', 'c')", 0},
-        {"Alert.ShowStop('a', nil)", 0},
-        {"Alert.ShowCaution(true, 'b')", 0},
-        {"Alert.Show(0, 0, 'a')", 0},
-        {"Alert.Show(0, 0, 'a', 'b', 'c')", 0},
-        {"Alert.Show(0, 0, {}, 'b')", 0},
-        {"Alert.SimpleInputBox('a', 'b')", 0},
-        {"Alert.SimpleInputBox('a', 'b', 'c', 'd')", 0},
-    };
-    const size_t shownBefore = vex::uisupport::ShownAlerts().size();
-    for (const Row& row : rows)
-        EXPECT_EQ(resultCount(row.call), row.results) << row.call;
-    EXPECT_EQ(vex::uisupport::ShownAlerts().size(), shownBefore);
-}
-
-TEST_F(ServicesTest, InputBoxStartsFromTheInitialTextAndGivesTheAnswer) {
-    answer(1, "typed");
-    runLua("ok, text, extra = Alert.SimpleInputBox('t', 'p', 'start')");
-    EXPECT_EQ(luaValue("ok"), "true");
-    EXPECT_EQ(luaValue("text"), "typed");
-    EXPECT_EQ(luaValue("extra"), "nil");
-    answer(2048);
-    EXPECT_EQ(resultCount("Alert.SimpleInputBox('t', 'p', 'start')"), 1);
-}
 
 TEST_F(ServicesTest, ScriptThatRunsDuringABoxSeesItsOwnStackUntouched) {
     // A timer's function runs inside the box's modal run on the same state.
@@ -284,14 +237,6 @@ TEST_F(ServicesTest, ThemeReleasedWhileItsColourIsReadReportsAndAnswersNothing) 
     ASSERT_EQ(zebcore::debug::RecordedAssertReports().size(), 1u);
     EXPECT_EQ(zebcore::debug::RecordedAssertReports()[0].message,
               "Attempting to use a released Theme");
-}
-
-TEST_F(ServicesTest, ThemeFunctionsPassIndicesUnchecked) {
-    runLua("Theme.SetColor(123456, {red = 0.25, green = 0.5, blue = 1, alpha = 0.5})");
-    EXPECT_TRUE(Theme::Get()->HasColor(123456));
-    EXPECT_EQ(Theme::Get()->GetColor(123456), zebui::inkwell::ColorRGBA(0.25f, 0.5f, 1.0f, 0.5f));
-    EXPECT_EQ(luaValue("Theme.GetColor(Theme.Color_TabBackground).blue"), "0.28125");
-    EXPECT_EQ(luaValue("Theme.GetFontName(Theme.Text_Title)"), "DejaVu Sans");
 }
 
 }  // namespace

@@ -174,13 +174,6 @@ checkEqual(select("#", tree:MeasureStringWidth(keptInk, "abc")), 0, "an ended pr
 checkEqual(#zebhost.assertReports(), 1, "and its report")
 zebhost.clearAssertReports()
 
--- Colours and flags.
-tree:SetShowBorder(1)
-tree:SetDrawGridLines(true, false)
-tree:SetGridLineColors(zeblua_CreateNewRGBA(1, 0, 0, 1), zeblua_CreateNewRGBA(0, 1, 0, 1))
-tree:SetCustomSelectionColor(0xFF0000FF)
-tree:ClearCustomSelectionColor()
-tree:SetDrawSpinnerBeforeColumn(0)
 ok = pcall(tree.SetGridLineColors, tree, 1, 2)
 check(not ok, "colours must be tables")
 print("mct_events: ok")
