@@ -76,7 +76,9 @@ InkwellProxy sEndedSurface{nullptr, nullptr, nullptr, false, 0, 0};
 // The scope table, one per state: the two kinds' registered and scoped metatables, its own
 // registry reference, then one slot per guard depth for the surface record its GetSurface
 // made. Integer keys in the table's array part, so a scope hashes nothing, and a slot is
-// only ever set again, never added, once the deepest scope has been open.
+// only ever set again, never added, once the deepest scope has been open. It is itself the
+// scoped Inkwell metatable (its slot names it), so GetSurface reaches the slots through the
+// metatable of the proxy it is called on, which the proxy check has just read.
 // The anchor table holds the records listed for an Inkwell made outside a guard. One weak
 // table per slot, so that keeping a value costs no table per proxy either. The live
 // records are weak-valued: an entry goes when the collector takes its record, whether or
@@ -96,11 +98,8 @@ enum ScopeTableSlot {
     kFirstAnchorSlot,
 };
 
-// A draw path reads the scope table at every proxy check, and the scoped Inkwell metatable
-// at every scope; that metatable keeps its own registry reference at kOwnMetatableReference.
+// A draw path reads the scope table at every proxy check and every scope.
 const utility::CachedRegistryReference sScopeTableReference;
-const utility::CachedRegistryReference sScopedInkwellMetatableReference;
-constexpr int kOwnMetatableReference = 1;
 // The addresses of the four metatables in the scope table, taken when its reference was
 // kept: while it holds, a proxy check compares its metatable's address with these and reads
 // no table. The scope table keeps them alive, so no other table can have their addresses.
@@ -154,27 +153,32 @@ int unlistAnchoredRecords(lua_State* L) {
     return 0;
 }
 
-// The scoped form of the registered metatable on top of the stack, pushed above it: the same
-// __index and __tostring, no __gc, and "__metatable" answering the registered table; its one
-// array slot is for its own registry reference.
-void pushScopedMetatable(lua_State* L) {
-    lua_createtable(L, kOwnMetatableReference, 3);
+// Makes the table at scopedIndex the scoped form of the registered metatable on top of the
+// stack: the same __index and __tostring, no __gc, and "__metatable" answering the
+// registered table.
+void makeScopedMetatable(lua_State* L, int scopedIndex) {
     for (const char* field : {"__index", "__tostring"}) {
-        lua_getfield(L, -2, field);
-        lua_setfield(L, -2, field);
+        lua_getfield(L, -1, field);
+        lua_setfield(L, scopedIndex, field);
     }
-    lua_pushvalue(L, -2);
-    lua_setfield(L, -2, "__metatable");
+    lua_pushvalue(L, -1);
+    lua_setfield(L, scopedIndex, "__metatable");
 }
 
 // Puts the registered metatable of metatableName, opening its module first if need be, and
-// its scoped form in the scope table on top of the stack.
+// its scoped form in the scope table on top of the stack; the scoped Inkwell metatable is the
+// scope table itself.
 void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
                     utility::ModuleOpener opener) {
-    utility::PushProxyMetatable(L, metatableName, opener);
-    pushScopedMetatable(L);                         /* T, registered, scoped */
-    lua_rawseti(L, -3, metatableSlot(kind, true));  /* T, registered */
-    lua_rawseti(L, -2, metatableSlot(kind, false)); /* T */
+    const int table = lua_gettop(L);
+    if (kind == DrawingKind::kInkwell)
+        lua_pushvalue(L, table);
+    else
+        lua_createtable(L, 0, 3);                          /* T, scoped */
+    utility::PushProxyMetatable(L, metatableName, opener); /* T, scoped, registered */
+    makeScopedMetatable(L, table + 1);
+    lua_rawseti(L, table, metatableSlot(kind, false)); /* T, scoped */
+    lua_rawseti(L, table, metatableSlot(kind, true));  /* T */
 }
 
 // Pushes the scope table of L's state and answers true; before the first scope, pushes nil
@@ -192,8 +196,10 @@ bool pushExistingScopeTable(lua_State* L) {
     return true;
 }
 
-// Pushes the scope table, making it when missing. Raises Lua's memory error, or an opener's.
+// Pushes the scope table, making it when missing, and answers its index. Raises Lua's memory
+// error, or an opener's.
 int pushScopeTable(lua_State* L) {
+    if (sScopeTableReference.Push(L)) return lua_gettop(L);
     if (!pushExistingScopeTable(L)) {
         lua_pop(L, 1);
         lua_createtable(L, kFirstAnchorSlot + 8, 0);
@@ -239,15 +245,6 @@ void endSkippedScope(lua_State* L, int depth) {
         lua_pop(L, 1);
     }
     lua_pop(L, 1);
-}
-
-// Pushes the scoped Inkwell metatable. Raises Lua's memory error, or an opener's.
-void pushScopedInkwellMetatable(lua_State* L) {
-    if (sScopedInkwellMetatableReference.Push(L)) return;
-    pushScopeTable(L);
-    lua_rawgeti(L, -1, kScopedInkwellMetatable);
-    lua_remove(L, -2);
-    sScopedInkwellMetatableReference.Keep(L, SelfReference(L, -1, kOwnMetatableReference));
 }
 
 // The record a guard's handle names, or an ended one once its scope has closed.
@@ -362,8 +359,8 @@ AcquireInkwellProxy::AcquireInkwellProxy(lua_State* L, Inkwell* inkwell, int& ar
     if (scope.generation != 0) endSkippedScope(L, mDepth);
     auto* handle = static_cast<ScopeHandle*>(lua_newuserdata(L, sizeof(ScopeHandle)));
     *handle = ScopeHandle{&scope, 0}; /* names no open scope until the end */
-    pushScopedInkwellMetatable(L);
-    lua_setmetatable(L, -2); /* the last call that can raise */
+    pushScopeTable(L);                /* the scoped Inkwell metatable */
+    lua_setmetatable(L, -2);          /* the last call that can raise */
     scope.proxy = InkwellProxy{inkwell, nullptr, nullptr, false, 0, mDepth};
     scope.generation = ++sLastGeneration;
     handle->generation = scope.generation;
@@ -422,9 +419,10 @@ int newProxyFromSurface(lua_State* L, Inkwell* inkwell, SurfaceInterface* surfac
     InkwellProxy* proxy = nullptr;
     int slot = 0;
     if (!owned && parent && parent->scopeDepth > 0) {
-        // The guard that opened the scope made the scope table: the few values this pushes fit
-        // in the LUA_MINSTACK free slots Lua gives the methods that call it.
-        const int table = pushScopeTable(L);
+        // The scope table is the metatable of parent's proxy at 1. The few values this pushes
+        // fit in the LUA_MINSTACK free slots Lua gives the methods that call it.
+        lua_getmetatable(L, 1);
+        const int table = lua_gettop(L);
         proxy = newScopedSurfaceRecord(L, table, fields);
         slot = surfaceSlot(parent->scopeDepth);
         lua_pushvalue(L, -1);

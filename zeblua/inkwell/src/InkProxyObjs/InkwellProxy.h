@@ -84,9 +84,10 @@ int newProxyFromInkwell(lua_State* L, zebui::inkwell::Inkwell* inkwell, InkwellP
 // 5.1 then gives every light userdata in the state; a method call on it reaches the same
 // record. Otherwise a new record (inkwell null); not owned, it becomes parent's surface
 // proxy, is listed in the scope of inkwell and is held until that scope ends: in the slot of
-// parent's depth when parent is a guard's, else in a registry table (an owned Inkwell's
-// scope ends when it is released). Owned: the caller adds the surface's reference. Raises Lua's
-// memory error; returns 0, pushing nothing, when the list could not grow.
+// parent's depth when parent is a guard's (its proxy, a method's self, is then at index 1),
+// else in a registry table (an owned Inkwell's scope ends when it is released). Owned: the
+// caller adds the surface's reference. Raises Lua's memory error; returns 0, pushing nothing,
+// when the list could not grow.
 int newProxyFromSurface(lua_State* L, zebui::inkwell::Inkwell* inkwell,
                         zebui::inkwell::SurfaceInterface* surface, InkwellProxy* parent,
                         InkwellProxy** out, bool owned);
