@@ -14,7 +14,6 @@
 #include "zeblua/ui/src/ControlChangedBinder.h"
 #include "zeblua/ui/src/InteractiveControlChangedBinder.h"
 #include "zeblua/ui/src/LuaBindingTable.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zebui/controls/UI_Checkbox.h"
 #include "zebui/controls/UI_InteractiveControlChangedMessage.h"
 #include "zebui/ui/MessageT.h"
@@ -39,11 +38,7 @@ protected:
             box:NotifyWhenChangedInteractively(function(m) log[#log + 1] = m.changeMessage end)
             box:NotifyWhenChangedInteractively(function() log[#log + 1] = "second phase" end)
         )");
-        lua_getglobal(L, "box");
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        lua_pop(L, 1);
-        return boost::intrusive_ptr<UI_Checkbox>(
-            dynamic_cast<UI_Checkbox*>(wrapper ? wrapper->GetNode().get() : nullptr));
+        return nodeOf<UI_Checkbox>("box");
     }
 };
 
@@ -89,9 +84,8 @@ TEST_F(ChangeBinderTest, AFailingFunctionLeavesTheStackOfTheNativeCallerAsItWas)
         box:NotifyWhenChanged(function() calls = calls + 1; error("failed") end)
         box:NotifyWhenChangedInteractively(function() calls = calls + 1; error({}) end)
     )");
-    lua_getglobal(L, "box");
-    const boost::intrusive_ptr<UI_Checkbox> box(
-        dynamic_cast<UI_Checkbox*>(zeblua::ui::GetControlUserData(L, -1)->GetNode().get()));
+    const boost::intrusive_ptr<UI_Checkbox> box = nodeOf<UI_Checkbox>("box");
+    ASSERT_TRUE(box);
     lua_pushstring(L, "below");
     const int top = lua_gettop(L);
     box->SetChecked(true);

@@ -223,7 +223,6 @@ TEST_F(InputEventMarshallingTest, LayerPublishesTheToolkitsInputNumbers) {
         long value;
     } cases[] = {
         {"zebhost.mouse.kDown", kMouseAction_Down},
-        {"zebhost.mouse.kWheel", kMouseAction_Wheel},
         {"zebhost.mouse.kSwipe", kMouseAction_Swipe},
         {"zebhost.buttons.kMiddle", kMouseButton_Middle},
         {"zebhost.wheelAxis.kHorizontal", kMouseWheelAxis_Horizontal},
@@ -234,13 +233,10 @@ TEST_F(InputEventMarshallingTest, LayerPublishesTheToolkitsInputNumbers) {
         {"zebhost.keys.kReturn", kKeyCode_Return},
         {"zebhost.keys.kKeypadEnter", kKeyCode_KeypadEnter},
         {"zebhost.keys.k0", kKeyCode_0},
-        {"zebhost.keys.k5", '5'},
         {"zebhost.keys.k9", kKeyCode_9},
         {"zebhost.keys.kA", kKeyCode_A},
-        {"zebhost.keys.kM", 'M'},
         {"zebhost.keys.kZ", kKeyCode_Z},
         {"zebhost.keys.kF1", kKeyCode_F1},
-        {"zebhost.keys.kF7", kKeyCode_F1 + 6},
         {"zebhost.keys.kF12", kKeyCode_F12},
         {"zebhost.focus.kWindow", kFocusChangeReason_Window},
     };

@@ -144,8 +144,6 @@ struct DropRow {
 
 TEST_F(MultiColumnTreeDragTest, TheDropFunctionsAnswersReachTheToolkitsRecord) {
     const DropRow rows[] = {
-        {"return true", true, 8, true, true, 8},  // no table: both stay
-        {"return false, { isDropValid = true }", false, 8, false, true, 0},
         {"return true, { dropEffect = 4 }", true, 1, true, false, 4},
         {"return true, { isDropValid = 1, dropEffect = '4' }", false, 0, true, true, 4},
         {"error('no')", true, 8, false, true, 8},

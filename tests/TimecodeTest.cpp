@@ -10,7 +10,6 @@
 #include "tests/LuaTestFixture.h"
 #include "zebcore/debug/Debug.h"
 #include "zeblua/ui/controls/src/UI_HotTextTimecode.h"
-#include "zeblua/ui/src/LuaControlWrapperBase.h"
 #include "zebui/controls/UI_TextEdit.h"
 #include "zebui/ui/EventLoop.h"
 #include "zebui/ui/MouseEvent.h"
@@ -118,11 +117,7 @@ protected:
     void SetUp() override {
         LuaTest::SetUp();
         runLua("require 'zeblua.zebcontrols'; tc = zebcontrols.NewHotTextTimecode()");
-        lua_getglobal(L, "tc");
-        zeblua::ui::LuaControlWrapperBase* wrapper = zeblua::ui::GetControlUserData(L, -1);
-        ASSERT_TRUE(wrapper);
-        mControl = dynamic_cast<UI_HotTextTimecode*>(wrapper->GetNode().get());
-        lua_settop(L, 0);
+        mControl = nodeOf<UI_HotTextTimecode>("tc");
         ASSERT_TRUE(mControl);
     }
     void TearDown() override {

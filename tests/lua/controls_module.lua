@@ -8,6 +8,7 @@ check(zebcontrols ~= nil, "the global table is there")
 local table_ = zebcontrols
 local nodeMetatable = registry.zebUINode
 check(type(nodeMetatable) == "table", "the node metatable is registered")
+local knobMetatable = registry.zebKnob
 
 -- The opener itself, as a host's second call reaches it: it finds "zebUINode" and answers
 -- whatever lay on top of the stack, here its own argument, registering nothing again.
@@ -23,6 +24,7 @@ end
 check(type(opener) == "function", "the opener is exported")
 checkEqual(opener("what was on top"), "what was on top", "a second opening answers the top")
 checkEqual(registry.zebUINode, nodeMetatable, "one set of metatables")
+checkEqual(registry.zebKnob, knobMetatable, "the classes' metatables are not made again")
 checkEqual(zebcontrols, table_, "the global table is not made again")
 -- require runs the opener with the module's name on top when package.loaded has no entry
 -- (a wrapper push opens the module without setting one): the name comes back, not the table.
