@@ -1,4 +1,4 @@
-// The host's zebhost.now, zebhost.quit and zebhost.answer, and its event loop run.
+// The host's zebhost.quit and zebhost.answer, and its event loop run.
 #include <lua.hpp>
 
 #include "host/src/HostLoop.h"
@@ -21,13 +21,6 @@ protected:
     }
     static EventLoop* loop() { return EventLoop::Get(); }
 };
-
-TEST_F(HostFunctionsTest, NowIsTheVirtualClockInMilliseconds) {
-    runLua("before = zebhost.now()");
-    loop()->AdvanceTime(25);
-    EXPECT_EQ(luaValue("zebhost.now() - before"), "25");
-    EXPECT_EQ(luaValue("type(zebhost.now())"), "number");
-}
 
 TEST_F(HostFunctionsTest, QuitEndsTheHostRunAtOnceAndIsClearedAfterIt) {
     runLua("zebhost.quit()");

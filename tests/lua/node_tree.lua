@@ -39,6 +39,7 @@ checkEqual(order(parent), "bcda", "ChildMove(0, 3) moves the first child to the 
 parent:ChildMove(3, 0)
 checkEqual(order(parent), "abcd", "ChildMove(3, 0) back")
 parent:ChildMove(4, 0)
+parent:ChildMove(1, 4)
 parent:ChildMove(-1, 0)
 parent:ChildSwapOrder(0, 9)
 checkEqual(order(parent), "abcd", "indexes out of range are ignored")
