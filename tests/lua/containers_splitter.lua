@@ -46,14 +46,6 @@ splitter:SetSplitPercentage(0.25)
 checkEqual(proposals[#proposals], 0.25, "SetSplitPercentage asks it too")
 checkEqual(frame(left), "0 0 47 100", "and the panes follow")
 
--- A validator that answers no number, or raises, leaves the proposal.
-for _, answer in ipairs({ function() return "0.1" end, function() end,
-                          function() error("no") end }) do
-  splitter:SetSplitValidationFunction(answer)
-  splitter:SetSplitPercentage(0.375)
-  checkEqual(splitter:GetSplitPercentage(), 0.375, "the proposal stands")
-  splitter:SetSplitPercentage(0.25)
-end
 local ok, message = pcall(splitter.SetSplitValidationFunction, splitter, 5)
 check(not ok and message:find("function expected", 1, true), "a function is needed")
 
