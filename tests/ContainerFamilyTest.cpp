@@ -19,20 +19,6 @@ protected:
         LuaTest::SetUp();
         runLua("require 'zeblua.zebcontrols'");
     }
-
-    // Three values of a native caller's own that no callback may touch.
-    void pushSentinels() {
-        lua_pushstring(L, "a");
-        lua_pushinteger(L, 2);
-        lua_pushboolean(L, 1);
-    }
-    void expectSentinels() {
-        ASSERT_EQ(lua_gettop(L), 3);
-        EXPECT_STREQ(lua_tostring(L, 1), "a");
-        EXPECT_EQ(lua_tointeger(L, 2), 2);
-        EXPECT_TRUE(lua_toboolean(L, 3));
-        lua_settop(L, 0);
-    }
 };
 
 // A validator's number is taken; a string, no answer, an error or a function that empties

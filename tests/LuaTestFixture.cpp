@@ -106,3 +106,17 @@ int LuaTest::reportCount(const std::string& message) {
         if (report.message == message) ++count;
     return count;
 }
+
+void LuaTest::pushSentinels() {
+    lua_pushstring(L, "a");
+    lua_pushinteger(L, 2);
+    lua_pushboolean(L, 1);
+}
+
+void LuaTest::expectSentinels() {
+    ASSERT_EQ(lua_gettop(L), 3);
+    EXPECT_STREQ(lua_tostring(L, 1), "a");
+    EXPECT_EQ(lua_tointeger(L, 2), 2);
+    EXPECT_TRUE(lua_toboolean(L, 3));
+    lua_settop(L, 0);
+}

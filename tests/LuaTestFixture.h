@@ -34,6 +34,10 @@ protected:
     std::string luaValue(const std::string& expression);
     // The number of results of "return <expression>".
     int resultCount(const std::string& expression);
+    // Three values of a native caller's own, below whatever a callback does; expectSentinels
+    // checks that the stack holds them and nothing else, and empties it.
+    void pushSentinels();
+    void expectSentinels();
     // A full collection cycle.
     void collectGarbage();
     // Pushes node's wrapper into the global name.

@@ -26,17 +26,6 @@ protected:
         LuaTest::SetUp();
         runLua("C = require 'zeblua.zebcontrols'");
     }
-
-    void pushSentinels() {
-        lua_pushstring(L, "a");
-        lua_pushinteger(L, 2);
-    }
-    void expectSentinels() {
-        ASSERT_EQ(lua_gettop(L), 2);
-        EXPECT_STREQ(lua_tostring(L, 1), "a");
-        EXPECT_EQ(lua_tointeger(L, 2), 2);
-        lua_settop(L, 0);
-    }
 };
 
 // Every tree method once, with the arguments it takes; r is a row of the tree.

@@ -60,11 +60,10 @@ TEST_F(UndoActionTest, TheReferenceTravelsAsDecimalTextAndIsReleasedWithTheActio
         new LuaAction(true, false, "Move", std::to_string(ref), L));
     EXPECT_TRUE(action->GetActionString() == u"Move") << "the description in UTF-16";
     EXPECT_TRUE(action->GetUndoDescription() == u"Undo Move");
-    lua_pushstring(L, "caller's value");
+    pushSentinels();
     action->Undo();
     action->Redo();
-    EXPECT_EQ(lua_gettop(L), 1) << "each call empties its own frame, not the caller's";
-    lua_settop(L, 0);
+    expectSentinels();
     EXPECT_EQ(log(), "undo:t0 redo:t0") << "the table is the only argument";
     EXPECT_TRUE(tableAlive()) << "the action holds the table";
     action.reset();
@@ -96,11 +95,9 @@ TEST_F(UndoActionTest, AReferenceToNoTableMakesNoCall) {
 TEST_F(UndoActionTest, ADisabledRestorerTouchesNothingAndCanBeEnabledAgain) {
     boost::intrusive_ptr<LuaStateRestorer> restorer(new LuaStateRestorer(refTable(), L));
     restorer->DisableRestorer(true);
-    lua_pushinteger(L, 1);
-    lua_pushinteger(L, 2);
+    pushSentinels();
     restorer->RestoreState();
-    EXPECT_EQ(lua_gettop(L), 2) << "the stack unchanged";
-    lua_settop(L, 0);
+    expectSentinels();
     EXPECT_EQ(log(), "");
     restorer->DisableRestorer(false);
     restorer->RestoreState();
