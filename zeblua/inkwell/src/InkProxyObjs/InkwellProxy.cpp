@@ -181,10 +181,9 @@ void fillMetatables(lua_State* L, DrawingKind kind, const char* metatableName,
     lua_rawseti(L, table, metatableSlot(kind, true));  /* T */
 }
 
-// Pushes the scope table of L's state and answers true; before the first scope, pushes nil
-// and answers false. Raises no Lua error.
-bool pushExistingScopeTable(lua_State* L) {
-    if (sScopeTableReference.Push(L)) return true;
+// pushExistingScopeTable when the reference is not kept for L: looks the table up by its
+// key, and keeps the reference when L can.
+bool lookUpScopeTable(lua_State* L) {
     PushRegistryTable(L, &sScopeTableKey);
     if (!lua_istable(L, -1)) return false;
     sScopeTableReference.Keep(L, HeldSelfReference(L, -1, kOwnReference));
@@ -196,11 +195,17 @@ bool pushExistingScopeTable(lua_State* L) {
     return true;
 }
 
+// Pushes the scope table of L's state and answers true; before the first scope, pushes nil
+// and answers false. Raises no Lua error.
+bool pushExistingScopeTable(lua_State* L) {
+    return sScopeTableReference.Push(L) || lookUpScopeTable(L);
+}
+
 // Pushes the scope table, making it when missing, and answers its index. Raises Lua's memory
 // error, or an opener's.
 int pushScopeTable(lua_State* L) {
     if (sScopeTableReference.Push(L)) return lua_gettop(L);
-    if (!pushExistingScopeTable(L)) {
+    if (!lookUpScopeTable(L)) {
         lua_pop(L, 1);
         lua_createtable(L, kFirstAnchorSlot + 8, 0);
         fillMetatables(L, DrawingKind::kInkwell, kZebLuaInkwellMetaTableName,
