@@ -362,9 +362,11 @@ TEST_F(SurfaceApiTest, AnOffscreenSurfaceDrawsOntoAnotherWholeScaledAndInPart) {
             off:DrawRoundedFill(rect(0, 0, 4, 4), blue, 0)
             off:PaintRect(rect(0, 0, 2, 4), red)
             local picture = off:GetSurfaceImage()
+            off:PaintRect(rect(0, 0, 4, 4), red) -- after the image was taken: not in it
             off:Release()
             local s = ink:GetSurface()
             s:DrawImage(picture, point(0, 0))
+            s:DrawImage(picture, point(12, 0), 0.5)
             s:DrawImage2(picture, rect(8, 8, 8, 8))
             s:DrawImage2(picture, rect(0, 8, 4, 4), rect(2, 0, 2, 2), 0.5)
             picture:Release()
@@ -375,6 +377,8 @@ TEST_F(SurfaceApiTest, AnOffscreenSurfaceDrawsOntoAnotherWholeScaledAndInPart) {
     EXPECT_EQ(mCanvas.surface->ReadPixel(0, 0), kRedPixel);
     EXPECT_EQ(mCanvas.surface->ReadPixel(3, 3), kBluePixel);
     EXPECT_TRUE(mCanvas.isClear(4, 0));
+    EXPECT_TRUE(mCanvas.isClear(11, 0));
+    EXPECT_EQ(mCanvas.surface->ReadPixel(12, 0)[3], 128);
     // Scaled twice: the red half covers x 8..11, blended only where the halves meet.
     EXPECT_EQ(mCanvas.surface->ReadPixel(8, 8), kRedPixel);
     EXPECT_EQ(mCanvas.surface->ReadPixel(9, 15), kRedPixel);
