@@ -24,7 +24,6 @@ using Rect32 = zebcore::geom::RectT<int>;
 struct MonitorProxy {
     using Object = OS_MonitorInfo;
     static constexpr const char* kMetatableName = kMonitorMetaTable;
-    static constexpr const char* kDisplayName = "zebMonitorInfo";
 };
 
 // The object of the proxy at 1. Null, and no value from the caller, when the argument is
