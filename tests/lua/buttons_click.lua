@@ -33,6 +33,10 @@ local function logged()
   return text
 end
 local function stateOf(control) return zebhost.snapshot(control).state end
+local function mouse(action, x, y, button)
+  zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(action, button or zebhost.buttons.kLeft,
+    1, x, y, 0, 0, 0))
+end
 
 -- A check box toggles on a click and reports it once, between begin and finish; a press
 -- released outside the box changes nothing; a mixed box becomes checked.
@@ -47,8 +51,19 @@ checkEqual(logged(), "box:0 box box:2", "and reports once more")
 zebhost.drag(root, 15, 15, 150, 90, 2)
 checkEqual(box:IsChecked(), false, "released outside: unchanged")
 checkEqual(logged(), "box:0 box:1 box:1 box:2", "phases but no change")
+-- Only a left press aimed at the box itself begins: not the right button, not a press that
+-- reached a child of the box first, not a drag or a release without a press.
+mouse(zebhost.mouse.kDown, 15, 15, zebhost.buttons.kRight)
+mouse(zebhost.mouse.kUp, 15, 15, zebhost.buttons.kRight)
+mouse(zebhost.mouse.kDrag, 15, 15)
+mouse(zebhost.mouse.kUp, 15, 15)
+place(zebhost.newNode("UI_SubView"), "inside", rect(40, 0, 20, 14), box)
+zebhost.click(root, 55, 15)
+checkEqual(logged(), "", "nothing began")
+checkEqual(box:IsChecked(), false, "nor changed")
 box:SetValueUnknown()
-checkEqual(logged(), "box", "becoming mixed is a change")
+box:SetValueUnknown()
+checkEqual(logged(), "box", "becoming mixed is one change")
 checkEqual(stateOf(box).valueUnknown, true, "mixed")
 zebhost.click(root, 15, 15)
 checkEqual(box:IsChecked(), true, "a click on a mixed box checks it")
@@ -59,6 +74,9 @@ checkEqual(logged(), "", "SetChecked() on a checked box: no change, no report")
 box:SetChecked(nil)
 checkEqual(box:IsChecked(), false, "nil clears")
 checkEqual(logged(), "box", "a script's change takes the same path")
+box:SetValueUnknown()
+box:SetChecked(false)
+checkEqual(logged(), "box box", "known again is a change, though the stored value is the same")
 
 -- Space on the focused box presses it as a click in its middle would: the same phases and
 -- one change. Another key is left to others and changes nothing.
@@ -135,10 +153,6 @@ checkEqual(logged(), "push push:0 push:1 push:2",
 checkEqual(push:GetValue(), false, "off")
 push:SetNotificationOnMouseDown(false)
 push:SetSpringLoaded()
-local function mouse(action, x, y)
-  zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(action, zebhost.buttons.kLeft, 1, x, y,
-    0, 0, 0))
-end
 mouse(zebhost.mouse.kDown, 20, 50)
 checkEqual(push:GetValue(), true, "spring-loaded: on while pressed")
 checkEqual(stateOf(push).pressed, true, "and drawn pressed")

@@ -13,11 +13,12 @@ local changes = {}
 for _, node in ipairs({ a, b }) do
   local id = node:UI_GetNodeID()
   node:BindZebOperation("uiFocusChange", function(reason)
-    changes[#changes + 1] = id .. ":" .. reason
+    changes[#changes + 1] = id .. ":" .. reason .. (node:UI_HasKeyboardFocus() and "+" or "-")
   end)
 end
 
 checkEqual(a:UI_GainKeyboardFocus(focus.kProgram), true, "a takes the focus")
+checkEqual(a:UI_GainKeyboardFocus(focus.kProgram), true, "and again, which changes nothing")
 checkEqual(a:UI_HasKeyboardFocus(), true, "UI_HasKeyboardFocus")
 checkEqual(root:UI_HasKeyboardFocus(), false, "the parent alone hasn't")
 checkEqual(root:UI_HasKeyboardFocus(true), true, "with descendants it has")
@@ -29,8 +30,8 @@ checkEqual(a:UI_HasKeyboardFocus(), true, "the focus stays where it was")
 b:UI_SetEnabled()
 checkEqual(b:UI_GainKeyboardFocus(focus.kTabForward), true, "enabled again it gets it")
 checkEqual(table.concat(changes, " "),
-  string.format("a:%d a:%d b:%d", focus.kProgram, focus.kTabForward, focus.kTabForward),
-  "the loser hears first, then the gainer, with the reason")
+  string.format("a:%d+ a:%d- b:%d+", focus.kProgram, focus.kTabForward, focus.kTabForward),
+  "the loser hears first, then the gainer, with the reason and the focus already moved")
 check(not pcall(b.UI_GainKeyboardFocus, b), "the reason is required")
 
 -- A listener that ends the only wrapper of the node gaining the focus: the node is held

@@ -6,7 +6,7 @@ local newNode = zebhost.newNode
 
 local function count(...) return select("#", ...) end
 
-local root = newNode("UI_SubView", "root", rect(0, 0, 200, 200))
+local root = newNode("UI_SubView", "root", rect(30, 40, 200, 200))
 local parent = newNode("UI_SubView", "parent", rect(10, 20, 100, 100), root)
 local child = newNode("UI_SubView", "child", rect(5, 5, 50, 40), parent)
 
@@ -15,17 +15,17 @@ checkEqual(tostring(child:UI_GetLocalRectF()), "{left=5, top=5, width=50, height
 checkEqual(tostring(child:UI_GetLocalRectF(true)), tostring(child:UI_GetLocalRectF()),
   "a headless node has no decorations")
 
--- Through two levels of parents.
-checkEqual(tostring(child:UI_LocalToGlobalPointF(point(1, 2))), "{x=16, y=27}",
-  "local {1,2} is global {16,27}")
-checkEqual(tostring(child:UI_GlobalToLocalPointF(point(16, 27))), "{x=1, y=2}", "and back")
+-- Through two levels of parents, the root's origin included.
+checkEqual(tostring(child:UI_LocalToGlobalPointF(point(1, 2))), "{x=46, y=67}",
+  "local {1,2} is global {46,67}")
+checkEqual(tostring(child:UI_GlobalToLocalPointF(point(46, 67))), "{x=1, y=2}", "and back")
 checkEqual(tostring(child:UI_LocalToGlobalRectF(rect(1, 2, 3, 4))),
-  "{left=16, top=27, width=3, height=4}", "a rect keeps its size")
-checkEqual(tostring(child:UI_GlobalToLocalRectF(rect(16, 27, 3, 4))),
+  "{left=46, top=67, width=3, height=4}", "a rect keeps its size")
+checkEqual(tostring(child:UI_GlobalToLocalRectF(rect(46, 67, 3, 4))),
   "{left=1, top=2, width=3, height=4}", "and back")
-checkEqual(tostring(child:UI_LocalToGlobalPointF(point(0.5, -0.25))), "{x=15.5, y=24.75}",
+checkEqual(tostring(child:UI_LocalToGlobalPointF(point(0.5, -0.25))), "{x=45.5, y=64.75}",
   "floats stay floats")
-checkEqual(tostring(child:UI_LocalToGlobalPointF(point(1, 2), nil)), "{x=15, y=25}",
+checkEqual(tostring(child:UI_LocalToGlobalPointF(point(1, 2), nil)), "{x=45, y=65}",
   "a further nil leaves the zeroed point")
 check(not pcall(child.UI_LocalToGlobalPointF, child, 7), "a point must be a table")
 check(not pcall(child.UI_SetLocalRectF, child, { left = 1 }), "a rect needs every field")
@@ -34,6 +34,8 @@ check(not pcall(child.UI_SetLocalRectF, child, { left = 1 }), "a rect needs ever
 -- has the manager's default one.
 local free = newNode("UI_SubView", "free", rect(3, 4, 30, 40))
 checkEqual(tostring(free:UI_GetRecommendedSize()), "{x=30, y=40}", "a plain node's own size")
+checkEqual(tostring(free:UI_LocalToGlobalPointF(point(1, 2))), "{x=4, y=6}",
+  "without a parent only its own origin counts")
 checkEqual(tostring(child:UI_GetRecommendedSize()), "{x=50, y=40}", "inside a tree")
 local supplier = free:UI_GetDrawSupplier()
 checkEqual(getmetatable(supplier), debug.getregistry()["zeblua.inkwell.zebSupplierInterface"],
