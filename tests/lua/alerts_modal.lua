@@ -1,9 +1,7 @@
 -- Alerts and the input box as a person answers them: each box is a modal run that takes
 -- the next queued answer; the argument rules answer nothing; silence answers nothing.
 require "zeblua.uisupport.Alert"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
-
-local function count(...) return select("#", ...) end
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 
 -- The numbering of the constants.
 local constants = {

@@ -2,11 +2,10 @@
 -- module's table; addresses opened are recorded, never launched.
 require "zeblua.zebMonitorInfo"
 require "zeblua.OSLaunchUtils"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
+local sides = zebhost.rectText
 local rect = zeblua_CreateNewRectF32
 
-local function count(...) return select("#", ...) end
-local function sides(r) return table.concat({ r.left, r.top, r.width, r.height }, " ") end
 
 local info = zebMonitorInfo.NewMonitorInfo()
 checkEqual(tostring(info):find("^zebMonitorInfo") , nil, "no __tostring of its own")

@@ -1,7 +1,7 @@
 -- The button family as a user drives it: clicks and drags through the harness, each value
 -- change reported through the same change functions as a script's own change.
 require "zeblua.zebcontrols"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, stateOf = zebhost.check, zebhost.checkEqual, zebhost.stateOf
 local rect = zeblua_CreateNewRectF32
 local C = zebcontrols
 
@@ -15,7 +15,7 @@ end
 -- Records the change functions' calls in one log: "id" for a plain change, "id:phase" for
 -- an interactive one. Only a control's first function ever runs, so this is the one place
 -- a test adds its own look at a change (also).
-local log = {}
+local log, logged = zebhost.recorder(" ")
 local function listen(control, also)
   local id = control:UI_GetNodeID()
   control:NotifyWhenChanged(function()
@@ -27,12 +27,6 @@ local function listen(control, also)
     log[#log + 1] = id .. ":" .. msg.changeMessage
   end)
 end
-local function logged()
-  local text = table.concat(log, " ")
-  log = {}
-  return text
-end
-local function stateOf(control) return zebhost.snapshot(control).state end
 local function mouse(action, x, y, button)
   zebhost.sendMouse(root, zeblua_CreateNewZEBUIMouseEvent(action, button or zebhost.buttons.kLeft,
     1, x, y, 0, 0, 0))

@@ -14,9 +14,7 @@ local function place(control, frame)
   panel:ChildPushBack(control)
   return control
 end
-local function pixel(x, y)
-  return table.concat({ zebhost.draw(panel):pixel(x, y) }, ",")
-end
+local function pixel(x, y) return zebhost.pixelText(panel, x, y) end
 local clear, face, edge = "0,0,0,0", "215,217,222,255", "97,102,115,255"
 -- The field's near white, whose last level differs between a fill and a stroke.
 local function light(x, y)

@@ -3,18 +3,9 @@
 -- rows, and the errors of a wrong argument.
 require "zeblua.zebcontrols"
 local check, checkEqual = zebhost.check, zebhost.checkEqual
+local failure, raises = zebhost.errorOf, zebhost.checkRaises
 local point = zeblua_CreateNewPointF32
 local C = zebcontrols
-
-local function failure(fn, ...)
-  local ok, why = pcall(fn, ...)
-  check(not ok, "expected an error")
-  return tostring(why)
-end
-local function raises(text, fn, ...)
-  local why = failure(fn, ...)
-  check(why:find(text, 1, true), "expected '" .. text .. "', got: " .. why)
-end
 
 -- Flag setters: no argument means true, nil false; each getter reads its own flag.
 local button = C.NewTextButton()

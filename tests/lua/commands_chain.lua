@@ -5,13 +5,8 @@ require "zeblua.zebCmdAttachment"
 local check, checkEqual = zebhost.check, zebhost.checkEqual
 
 local SAVE, PRINT, BROKEN, MENU = 9101, 9102, 9103, 9104
-local seen = {}
+local seen, taken = zebhost.recorder(" ")
 local function saw(who, id) seen[#seen + 1] = who .. ":" .. id end
-local function taken()
-  local text = table.concat(seen, " ")
-  seen = {}
-  return text
-end
 
 -- A handler that raises, registered first: every command passes through it and on.
 local broken = {}

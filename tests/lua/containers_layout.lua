@@ -6,10 +6,7 @@ local check, checkEqual = zebhost.check, zebhost.checkEqual
 local rect = zeblua_CreateNewRectF32
 local C = zebcontrols
 
-local function frame(node)
-  local r = node:UI_GetLocalRectF()
-  return string.format("%g %g %g %g", r.left, r.top, r.width, r.height)
-end
+local function frame(node) return zebhost.rectText(node:UI_GetLocalRectF()) end
 
 -- Bindings: 1 left, 2 top, 4 right, 8 bottom. Both edges of an axis stretch, the far edge
 -- alone moves, the near edge alone (or none) stays.

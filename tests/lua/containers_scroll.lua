@@ -2,13 +2,10 @@
 -- offset moves the content, ScrollIntoView scrolls the least distance, and each real
 -- scroll is a change of the control's value.
 require "zeblua.zebcontrols"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, text = zebhost.check, zebhost.checkEqual, zebhost.rectText
 local rect, point = zeblua_CreateNewRectF32, zeblua_CreateNewPointF32
 local C = zebcontrols
 
-local function text(r)
-  return string.format("%g %g %g %g", r.left, r.top, r.width, r.height)
-end
 
 -- Bars by flags: 1 horizontal, 2 vertical; none without flags.
 local content = C.NewSubView()

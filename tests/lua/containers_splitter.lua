@@ -5,10 +5,7 @@ local check, checkEqual = zebhost.check, zebhost.checkEqual
 local rect = zeblua_CreateNewRectF32
 local C = zebcontrols
 
-local function frame(node)
-  local r = node:UI_GetLocalRectF()
-  return string.format("%g %g %g %g", r.left, r.top, r.width, r.height)
-end
+local function frame(node) return zebhost.rectText(node:UI_GetLocalRectF()) end
 
 local root = zebhost.newNode("UI_SubView", "root", rect(0, 0, 200, 100))
 local splitter = C.NewSplitterView()

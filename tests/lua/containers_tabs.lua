@@ -23,18 +23,13 @@ checkEqual(well:GetTabItemText(0) .. well:GetTabItemText(1) .. well:GetTabItemTe
 checkEqual(select("#", well:GetTabItemText(3)), 0, "a tab out of range: nothing")
 checkEqual(select("#", well:GetTabItemText(-1)), 0, "a negative tab: nothing")
 
-local log = {}
+local log, taken = zebhost.recorder(" | ")
 well:SetTabItemActionFunction(function(...)
   local args = { ... }
   local r = args[3]
   log[#log + 1] = table.concat({ select("#", ...), args[1], args[2],
     r and string.format("%d,%d,%d,%d", r.left, r.top, r.width, r.height) or "-" }, " ")
 end)
-local function taken()
-  local text = table.concat(log, " | ")
-  log = {}
-  return text
-end
 
 -- SetFrontmost: in range it moves the front-most tab, out of range nothing happens.
 well:SetFrontmost(0)

@@ -1,14 +1,8 @@
 -- The constructors whose arguments matter, checked through what the new controls carry.
 local check, checkEqual = zebhost.check, zebhost.checkEqual
+local state, raises = zebhost.stateOf, zebhost.checkRaises
 local point = zeblua_CreateNewPointF32
 require "zeblua.zebcontrols"
-
-local function state(control) return zebhost.snapshot(control).state end
-local function raises(expected, fn, ...)
-  local ok, message = pcall(fn, ...)
-  check(not ok, "raised")
-  check(tostring(message):find(expected, 1, true), "'" .. tostring(message) .. "' names " .. expected)
-end
 
 local supplier
 zebhost.canvas(1, 1, function(ink) supplier = ink:GetSupplier() end)
@@ -34,8 +28,8 @@ local owned = zebcontrols.NewDialog(supplier, "Owned", point(10, 20), point(200,
 shot = zebhost.snapshot(owned)
 checkEqual(shot.state.owner, "panel", "a wrapper's node owns it")
 checkEqual(shot.state.ownerIsPlatformWindow, false, "a node, not a platform window")
-checkEqual(string.format("%g %g %g %g", shot.rect.left, shot.rect.top, shot.rect.width,
-  shot.rect.height), "10 20 200 100", "with a wrapper on top both points are read")
+checkEqual(zebhost.rectText(shot.rect), "10 20 200 100",
+  "with a wrapper on top both points are read")
 panel = nil
 collectgarbage("collect")
 checkEqual(zebhost.snapshot(owned).state.owner, "panel", "the dialog holds its owner")
@@ -104,8 +98,7 @@ raises("bad argument #1", zebcontrols.NewScrollView, "x")
 
 -- NewPopupWindow: 100 by 100 at the origin; floating by truth of argument 2.
 local popup = zebhost.snapshot(zebcontrols.NewPopupWindow(supplier))
-checkEqual(string.format("%g %g %g %g", popup.rect.left, popup.rect.top, popup.rect.width,
-  popup.rect.height), "0 0 100 100", "the structure rect")
+checkEqual(zebhost.rectText(popup.rect), "0 0 100 100", "the structure rect")
 checkEqual(popup.state.floating, false, "not floating by default")
 checkEqual(state(zebcontrols.NewPopupWindow(supplier, "yes")).floating, true, "floating")
 raises("bad argument #1", zebcontrols.NewPopupWindow)

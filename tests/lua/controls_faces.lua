@@ -4,7 +4,7 @@
 require "zeblua.zebcontrols"
 require "zeblua.inkwell.zebInkwell"
 require "zeblua.inkwell.zebSurfaceInterface"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, pixel = zebhost.check, zebhost.checkEqual, zebhost.pixelText
 local rect, rgba = zeblua_CreateNewRectF32, zeblua_CreateNewRGBA
 local goldenFolder = arg[0]:match("^(.*)/lua/[^/]*$") or "tests"
 local C = zebcontrols
@@ -12,9 +12,6 @@ local C = zebcontrols
 local function framed(control, width, height)
   control:UI_SetLocalRectF(rect(0, 0, width, height))
   return control
-end
-local function pixel(control, x, y)
-  return table.concat({ zebhost.draw(control):pixel(x, y) }, ",")
 end
 
 -- The button's own face; a hook that did the drawing leaves it out, one that did not is

@@ -1,13 +1,12 @@
 -- Dialogs as a user meets them: built, run modally and ended by the scripted user, by a
 -- click on their buttons, by a timer calling DefaultCloseOk, and nested in one another.
 require "zeblua.zebcontrols"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, state = zebhost.check, zebhost.checkEqual, zebhost.stateOf
 local point, rect = zeblua_CreateNewPointF32, zeblua_CreateNewRectF32
 local C = zebcontrols
 
 local supplier
 zebhost.canvas(1, 1, function(ink) supplier = ink:GetSupplier() end)
-local function state(node) return zebhost.snapshot(node, 0).state end
 
 -- A nil owner (the main window) leaves the points unread, so the frame is set after.
 local function newDialog(title)
@@ -31,9 +30,8 @@ check(not ok and message:find("number expected", 1, true), tostring(message))
 local container = dialog:GetContainer()
 checkEqual(container:UI_GetNodeID(), "container", "the container")
 check(container ~= dialog:GetContainer(), "a new wrapper each call")
-local frame = container:UI_GetLocalRectF()
-checkEqual(string.format("%g %g %g %g", frame.left, frame.top, frame.width, frame.height),
-  "0 20 200 100", "below a title bar of 20")
+checkEqual(zebhost.rectText(container:UI_GetLocalRectF()), "0 20 200 100",
+  "below a title bar of 20")
 
 -- Timers for the runs: each fires once, its node kept alive here.
 local timerNodes = {}

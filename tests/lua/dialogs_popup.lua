@@ -4,24 +4,19 @@
 require "zeblua.zebcontrols"
 require "zeblua.inkwell.zebSurfaceInterface"
 local check, checkEqual = zebhost.check, zebhost.checkEqual
+local state, raises = zebhost.stateOf, zebhost.checkRaises
 local point, rect = zeblua_CreateNewPointF32, zeblua_CreateNewRectF32
 local C = zebcontrols
 
 local supplier
 zebhost.canvas(1, 1, function(ink) supplier = ink:GetSupplier() end)
-local function state(node) return zebhost.snapshot(node, 0).state end
-local function raises(expected, fn, ...)
-  local ok, message = pcall(fn, ...)
-  check(not ok and tostring(message):find(expected, 1, true), tostring(message))
-end
 
 -- A new popup: {0, 0, 100, 100}, a shadowed panel that works while a dialog runs, at the
 -- pop-up menu level, or the floating level when asked.
 local popup = C.NewPopupWindow(supplier)
 popup:UI_SetNodeID("popup")
 local r = popup:UI_GetGlobalStructureRect()
-checkEqual(string.format("%d %d %d %d", r.left, r.top, r.width, r.height), "0 0 100 100",
-  "a new popup's rect")
+checkEqual(zebhost.rectText(r), "0 0 100 100", "a new popup's rect")
 local s = state(popup)
 checkEqual(s.platformClass, "ZEBMacPanelWindow", "a panel")
 check(s.hasShadow and s.worksWhenModal, "with a shadow, working when modal")
@@ -29,8 +24,7 @@ checkEqual(s.level, 101, "the pop-up menu level")
 checkEqual(state(C.NewPopupWindow(supplier, true)).level, 3, "the floating level")
 popup:UI_SetGlobalStructureRect(rect(10.7, 20, 30, 40.9))
 r = popup:UI_GetGlobalStructureRect()
-checkEqual(string.format("%d %d %d %d", r.left, r.top, r.width, r.height), "10 20 30 40",
-  "whole numbers")
+checkEqual(zebhost.rectText(r), "10 20 30 40", "whole numbers")
 
 -- The constants are fields of every popup.
 checkEqual(table.concat({ popup.kUIKeyboardEvent, popup.kUI_ActivationChanged,
@@ -87,12 +81,7 @@ popup:UI_Show(false)
 -- Activation: 0 for UI_Activate, 2 to the window that was active, 1 for a click in an
 -- inactive window; nothing for the active one again. The base is never asked, errors go
 -- nowhere, and the caller's frame is kept.
-local log = {}
-local function taken()
-  local text = table.concat(log, " ")
-  log = {}
-  return text
-end
+local log, taken = zebhost.recorder(" ")
 popup:BindPopupWindowOperation(popup.kUI_ActivationChanged, function(a) log[#log + 1] = "p" .. a end)
 local second = C.NewPopupWindow(supplier)
 second:UI_SetLocalRectF(rect(0, 0, 40, 40))

@@ -98,6 +98,21 @@ check(not ok and message:find("harness.lua:%d+: check failed: inside a callback"
 takesAll(low)
 checkEqual(at(15, 15), "low", "the next call is clean")
 
+-- The checking helpers: a call that does not raise, or raises something else, fails at the
+-- test's own line; the error comes back; the recorder empties as it answers.
+ok, message = pcall(function() zebhost.errorOf(function() end) end)
+check(not ok and message:find("harness.lua:%d+: check failed: expected an error"),
+  tostring(message))
+ok, message = pcall(function() zebhost.checkRaises("a.b", error, "a-b") end)
+check(not ok and message:find("harness.lua:%d+: check failed: expected 'a.b', got: a%-b"),
+  tostring(message))
+checkEqual(zebhost.checkRaises("a.b", error, "the a.b"), "the a.b", "the error comes back")
+checkEqual(zebhost.count(nil, nil), 2, "nils are counted")
+local entries, taken = zebhost.recorder("|")
+entries[1], entries[2] = "x", "y"
+checkEqual(taken(), "x|y", "joined")
+checkEqual(taken() .. #entries, "0", "and emptied")
+
 -- Golden comparison: equal to itself, within a tolerance, and a mismatch that writes the
 -- picture and a diff.
 require "zeblua.inkwell.zebSurfaceInterface"

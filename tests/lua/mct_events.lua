@@ -21,13 +21,8 @@ local kid = tree:CreateAndAppendRow(parent, false, "kid")
 local other = tree:CreateAndAppendRow(nil, false, "other")
 tree:LayoutAfterAppendRow()
 
-local log = {}
+local log, taken = zebhost.recorder(" | ")
 local function record(text) log[#log + 1] = text end
-local function taken()
-  local text = table.concat(log, " | ")
-  log = {}
-  return text
-end
 
 checkEqual(tree:BindZebOperation("mctSelectionChanged", function(rows)
   local ids = {}

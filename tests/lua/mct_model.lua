@@ -1,7 +1,7 @@
 -- The tree's row model as a script fills and reads it: numbering bases, defaults, lookups
 -- by id through closed branches, rows that outlive their removal, selection and columns.
 require "zeblua.zebcontrols"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 local rect = zeblua_CreateNewRectF32
 local C = zebcontrols
 
@@ -9,8 +9,6 @@ local root = zebhost.newNode("UI_SubView", "root", rect(0, 0, 300, 200))
 local tree = C.NewMultiColumnTree()
 tree:UI_SetLocalRectF(rect(0, 0, 300, 200))
 root:ChildPushBack(tree)
-
-local function count(...) return select("#", ...) end
 
 -- Defaults: one column, rows 18 high, no rows.
 checkEqual(tree:GetRowHeight(), 18, "row height")

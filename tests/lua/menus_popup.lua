@@ -2,10 +2,8 @@
 -- a person answers with the id of the item chosen.
 require "zeblua.OSMenu"
 require "zeblua.zebcontrols"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 local rect, point = zeblua_CreateNewRectF32, zeblua_CreateNewPointF32
-
-local function count(...) return select("#", ...) end
 
 local root = zebhost.newNode("UI_SubView", "root", rect(0, 0, 200, 100))
 local button = zebcontrols.NewTextButton()

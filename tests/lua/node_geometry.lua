@@ -1,10 +1,8 @@
 -- The node set's geometry: frames, conversion through every parent, the recommended size
 -- and clipping; a rect table whose __index ends the wrapper answers nothing.
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 local rect, point = zeblua_CreateNewRectF32, zeblua_CreateNewPointF32
 local newNode = zebhost.newNode
-
-local function count(...) return select("#", ...) end
 
 local root = newNode("UI_SubView", "root", rect(30, 40, 200, 200))
 local parent = newNode("UI_SubView", "parent", rect(10, 20, 100, 100), root)

@@ -1,6 +1,6 @@
 -- Every method of the node set on a released wrapper, and on one ended by its __gc,
 -- answers with no result; argument 1 that is no wrapper is "Bad user data".
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 local rect, point = zeblua_CreateNewRectF32, zeblua_CreateNewPointF32
 local newNode = zebhost.newNode
 
@@ -38,8 +38,6 @@ for name, value in pairs(set) do
   end
 end
 checkEqual(rows, 47, "the node set's rows")
-
-local function count(...) return select("#", ...) end
 
 local function checkAnswersNothing(wrapper, how)
   for name, args in pairs(arguments) do

@@ -1,12 +1,11 @@
 -- The node set's state and appearance: flags whose default is true take a present nil as
 -- false, invalidation and UI_UpdateNow as the toolkit records them, the draw cache policy
 -- strings, themes, mouse over and mouse events handed to a node.
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 local rect = zeblua_CreateNewRectF32
 local newNode = zebhost.newNode
 local mouse, buttons = zebhost.mouse, zebhost.buttons
 
-local function count(...) return select("#", ...) end
 local function redraw(node) return zebhost.snapshot(node, 0).redraw end
 
 -- Flags that default to true: no argument is true, a nil that is there is false.
@@ -40,8 +39,7 @@ local recorded = redraw(part)
 checkEqual(recorded.wholeNode, false, "a rect is a part")
 checkEqual(#recorded.rects, 1, "one rect")
 local r = recorded.rects[1]
-checkEqual(string.format("%d %d %d %d", r.left, r.top, r.width, r.height), "1 2 4 5",
-  "its edges rounded outwards: 1.5..4.5 and 2.5..6.5")
+checkEqual(zebhost.rectText(r), "1 2 4 5", "its edges rounded outwards: 1.5..4.5 and 2.5..6.5")
 checkEqual(recorded.invalidateFlags, 0, "flags 0")
 
 -- UI_UpdateNow: all flags by default, and the real draw pass runs before it returns.

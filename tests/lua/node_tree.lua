@@ -1,9 +1,7 @@
 -- The node set's tree methods as a script meets them: ChildGet and UI_GetIndex count from
 -- 1, ChildMove, ChildSwapOrder and SetViewIndex from 0; every push is a new wrapper.
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 local newNode = zebhost.newNode
-
-local function count(...) return select("#", ...) end
 
 local function order(parent)
   local ids = {}

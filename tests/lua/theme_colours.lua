@@ -1,8 +1,7 @@
 -- The theme's colours and fonts by index, application colours from 10000, and theme values.
 require "zeblua.zebTheme"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, count = zebhost.check, zebhost.checkEqual, zebhost.count
 
-local function count(...) return select("#", ...) end
 local function rgba(c) return table.concat({ c.red, c.green, c.blue, c.alpha }, " ") end
 
 checkEqual(Theme.Color_TabBackground, 277, "TabBackground")

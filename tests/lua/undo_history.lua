@@ -8,12 +8,7 @@ checkEqual(next(zebUndoAction), nil, "an empty table")
 checkEqual(type(zebLuaStateRestorer), "table", "and zebLuaStateRestorer")
 checkEqual(next(zebLuaStateRestorer), nil, "empty too")
 
-local log = {}
-local function taken()
-  local text = table.concat(log, " ")
-  log = {}
-  return text
-end
+local log, taken = zebhost.recorder(" ")
 
 -- The table is the only argument: a colon method sees self.
 local step = { name = "step" }

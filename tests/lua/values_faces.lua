@@ -13,7 +13,7 @@ local function place(control, frame)
   panel:ChildPushBack(control)
   return control
 end
-local function pixel(x, y) return table.concat({ zebhost.draw(panel):pixel(x, y) }, ",") end
+local function pixel(x, y) return zebhost.pixelText(panel, x, y) end
 
 local low = place(C.NewKnob(), rect(4, 4, 32, 32))
 local high = place(C.NewKnob(), rect(40, 4, 32, 32))

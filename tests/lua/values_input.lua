@@ -2,7 +2,7 @@
 -- slider and a scroll bar; typing into a text edit and a search box; a popup's menu chosen
 -- by a click. Each change reaches the script through the change notification.
 require "zeblua.zebcontrols"
-local check, checkEqual = zebhost.check, zebhost.checkEqual
+local check, checkEqual, state = zebhost.check, zebhost.checkEqual, zebhost.stateOf
 local rect = zeblua_CreateNewRectF32
 local keys = zebhost.keys
 local C = zebcontrols
@@ -21,7 +21,6 @@ local function journal(control)
   control:NotifyWhenChangedInteractively(function(msg) log[#log + 1] = msg.changeMessage end)
   return log
 end
-local function state(control) return zebhost.snapshot(control, 0).state end
 
 -- A knob dragged up far past its range: the value goes to the maximum and stays there,
 -- and the change ends with a finish.

@@ -3,16 +3,10 @@
 -- out as UTF-8, and the errors of a wrong self.
 require "zeblua.zebcontrols"
 local check, checkEqual = zebhost.check, zebhost.checkEqual
+local state, count, errorOf = zebhost.stateOf, zebhost.count, zebhost.errorOf
 local rect, rgba = zeblua_CreateNewRectF32, zeblua_CreateNewRGBA
 local C = zebcontrols
 
-local function state(control) return zebhost.snapshot(control, 0).state end
-local function count(...) return select("#", ...) end
-local function errorOf(fn, ...)
-  local ok, why = pcall(fn, ...)
-  check(not ok, "raises")
-  return tostring(why)
-end
 -- Counts the change notifications of control into the returned table's n.
 local function changes(control)
   local seen = { n = 0 }

@@ -8,7 +8,7 @@ local tests = arg[0]:match("^(.*)/lua/[^/]*$") or "tests"
 zebhost.addResourceFolder(tests .. "/fixtures/views")
 
 local view = zebcontrols.LoadControlsFromXml("faces")
-local function pixel(x, y) return table.concat({ zebhost.draw(view):pixel(x, y) }, ",") end
+local function pixel(x, y) return zebhost.pixelText(view, x, y) end
 
 -- The same controls made by the script, at the same places, draw the same picture.
 local byHand = zebhost.newNode("UI_SubView", "byHand", rect(0, 0, 160, 90))

@@ -18,9 +18,8 @@ zebhost.clearAssertReports()
 local panel = load("panel")
 checkEqual(getmetatable(panel), registry.zebSubView, "the root's wrapper")
 checkEqual(panel:UI_GetNodeID(), "panel", "the root's id")
-local frame = panel:UI_GetLocalRectF()
-checkEqual(string.format("%g %g %g %g", frame.left, frame.top, frame.width, frame.height),
-  "0 0 200 120", "at its own origin, with the file's size")
+checkEqual(zebhost.rectText(panel:UI_GetLocalRectF()), "0 0 200 120",
+  "at its own origin, with the file's size")
 checkEqual(panel:UI_IsShown(), true, "shown, though the file hides it")
 
 -- Nodes are found by id at any depth, each of its class, with the file's frame.

@@ -138,6 +138,15 @@ end
 --   zebhost.check(condition [, message])
 --   zebhost.checkEqual(actual, expected [, message])
 --   zebhost.checkImage(picture, goldenPath [, tolerance])   (zebhost.compareImage)
+--   zebhost.errorOf(fn, ...): fn(...) must raise; its error as a string
+--   zebhost.checkRaises(text, fn, ...): fn(...) must raise an error holding text (plain)
+-- and small readers for them:
+--   zebhost.count(...): how many values, nils included
+--   zebhost.stateOf(node): the node's snapshot state table
+--   zebhost.pixelText(node, x, y): the drawn node's pixel as "r,g,b,a"
+--   zebhost.rectText(r): a rect's "left top width height", each with %g
+--   zebhost.recorder(separator): a list to append entries to, and a function that answers
+--     them joined by separator and empties the list
 -- Errors inside callbacks go nowhere (the toolkit drops them), so a check that fails in
 -- a callback is also remembered, and the harness call that ran the callback (sendMouse,
 -- click, drag, sendKey, type, draw) raises it again when it returns.
@@ -166,6 +175,45 @@ end
 function zebhost.checkImage(picture, goldenPath, tolerance)
   local same, difference = zebhost.compareImage(picture, goldenPath, tolerance)
   if not same then fail(difference, 2) end
+end
+
+-- level: the caller to name when fn does not raise, counted as fail counts it.
+local function errorAt(level, fn, ...)
+  local ok, why = pcall(fn, ...)
+  if ok then fail("expected an error", level + 1) end
+  return tostring(why)
+end
+
+function zebhost.errorOf(fn, ...)
+  local why = errorAt(2, fn, ...) -- not a tail call: the caller's frame must stay
+  return why
+end
+
+function zebhost.checkRaises(text, fn, ...)
+  local why = errorAt(2, fn, ...)
+  if not why:find(text, 1, true) then fail("expected '" .. text .. "', got: " .. why, 2) end
+  return why
+end
+
+function zebhost.count(...) return select("#", ...) end
+
+function zebhost.stateOf(node) return zebhost.snapshot(node, 0).state end
+
+function zebhost.pixelText(node, x, y)
+  return table.concat({ zebhost.draw(node):pixel(x, y) }, ",")
+end
+
+function zebhost.rectText(r)
+  return string.format("%g %g %g %g", r.left, r.top, r.width, r.height)
+end
+
+function zebhost.recorder(separator)
+  local entries = {}
+  return entries, function()
+    local text = table.concat(entries, separator)
+    for i = #entries, 1, -1 do entries[i] = nil end
+    return text
+  end
 end
 
 for _, name in ipairs({ "sendMouse", "click", "drag", "sendKey", "type", "draw" }) do
