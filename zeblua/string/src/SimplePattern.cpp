@@ -146,16 +146,9 @@ SimplePattern::Outcome SimplePattern::Search(const char* first, const char* last
                                              RegexMatch& match) const {
     const std::ptrdiff_t length = last - first;
     Walk walk(first, length, notInitialNull ? 0 : -1, stepsLeft);
-    const Outcome outcome = searchWith(walk, first, length, match);
-    stepsLeft = walk.stepsLeft();
-    return outcome;
-}
-
-template <typename Walker>
-SimplePattern::Outcome SimplePattern::searchWith(Walker& walk, const char* first,
-                                                 std::ptrdiff_t length, RegexMatch& match) const {
-    std::ptrdiff_t& stepsLeft = walk.stepsLeft();
+    std::ptrdiff_t& steps = walk.stepsLeft();
     const Atom& lead = mAtoms.front();
+    Outcome outcome = Outcome::kNoMatch;
     for (std::ptrdiff_t start = 0; start <= length; ++start) {
         if (!lead.optional) {
             // A match begins with a byte that the first atom takes: skip to one.
@@ -167,19 +160,27 @@ SimplePattern::Outcome SimplePattern::searchWith(Walker& walk, const char* first
                 while (start < length && !ByteSetTakes(lead.bytes, first[start]))
                     ++start;
             }
-            stepsLeft -= start - from;
-            if (stepsLeft < 0) return Outcome::kTooMuchWork;
+            steps -= start - from;
+            if (steps < 0) {
+                outcome = Outcome::kTooMuchWork;
+                break;
+            }
             if (start == length) break;
         }
         const std::ptrdiff_t end = walk.from(mAtoms.begin(), mAtoms.end(), start);
-        if (stepsLeft < 0) return Outcome::kTooMuchWork;
+        if (steps < 0) {
+            outcome = Outcome::kTooMuchWork;
+            break;
+        }
         if (end >= 0) {
             match.begin = start;
             match.end = end;
-            return Outcome::kMatch;
+            outcome = Outcome::kMatch;
+            break;
         }
     }
-    return Outcome::kNoMatch;
+    stepsLeft = steps;
+    return outcome;
 }
 
 }  // namespace string

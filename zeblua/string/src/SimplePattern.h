@@ -56,10 +56,6 @@ private:
     // Deep recursion is one frame per atom, so the count is bounded.
     static constexpr std::size_t kMostAtoms = 32;
 
-    template <typename Walker>
-    Outcome searchWith(Walker& walk, const char* first, std::ptrdiff_t length,
-                       RegexMatch& match) const;
-
     std::vector<Atom> mAtoms;
     int mLeadByte = -1;  // the one byte a match begins with, or -1
 };
